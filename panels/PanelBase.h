@@ -1,0 +1,202 @@
+// What the panels share: every operation, written once over a panel's table of options.
+#pragma once
+
+#include <cups/ppd.h>
+
+#include <memory>
+#include <span>
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+#include "choice/Utility.h"
+#include "platform/Bundle.h"
+#include "platform/Controls.h"
+#include "platform/HostCallback.h"
+#include "platform/Panel.h"
+
+namespace kwopde {
+
+class PanelBase;
+
+/// A member of a panel class, seen from the base, as the tables bind it.
+template <class T>
+using Member = T PanelBase::*;
+
+/// Binds `member` of a panel class for use in its table.
+template <class T, class P>
+constexpr Member<T> bind(T P::*member) {
+  return static_cast<Member<T>>(member);
+}
+
+/// An outlet of the interface file and the member that it connects.
+template <class Control>
+struct OutletRow {
+  std::string_view name;  // empty: the option has no such control
+  Member<Outlet<Control>> member;
+};
+
+/// An option that a pop-up menu shows; a pick is marked at once.
+struct PopUpRow {
+  const char *key;
+  OutletRow<PopUpButton> popUp;
+  Member<std::unique_ptr<ChoiceList>> choices;
+  Member<ppd_option_t *> option;
+  Member<PDEChoice *> selection;
+  std::string_view action;
+  // Trace texts; the log's readers match them as they are spelled.
+  const char *notSupported;
+  const char *disabling;
+  const char *notFound;
+  const char *noSelection = nullptr;  // null: a missing selection is not traced
+};
+
+/// What becomes of the field of a value option that the PPD does not have.
+enum class MissingValue { staysUsable, isDisabled };
+
+/// An option that is a number; its field is the value of record, and it is marked when the panel is
+/// hidden, printed or saved.
+struct ValueRow {
+  const char *key;
+  Member<ppd_option_t *> option;
+  std::variant<Member<int>, Member<double>> value;
+  int initialValue = 0;
+  OutletRow<TextField> field;
+  const char *fieldFormat = nullptr;  // printf format of the field's text; null: the bare number
+  OutletRow<Slider> slider = {};
+  std::string_view action = {};  // the slider's
+  const char *summaryKey;        // not translated
+  const char *summaryFormat;
+  MissingValue missing = MissingValue::staysUsable;
+  const char *notSupported;
+  const char *disabling = nullptr;  // null: not traced
+};
+
+/// All that tells one panel class from another.
+struct PanelTraits {
+  std::string_view className;
+  std::string_view interfaceFile;
+  const char *nameKey;  // of the localized panel name
+  std::string_view kind;
+  std::span<const PopUpRow> popUps;
+  std::span<const ValueRow> values;
+  std::span<const OutletRow<TextField>> captions;  // outlets that no operation uses
+  /// The panel is refused when the PPD has none of the first so many pop-up options.
+  std::size_t keyOptions;
+  // Trace texts that are the panel's own; a null one is not traced.
+  const char *panelViewEntry;           // may show the interface file
+  const char *saving;                   // in shouldHide and shouldPrint
+  const char *updateUIEntry;            // may show hasInited
+  const char *querySettingsFromUIExit;  // may show the first value
+  const char *request;                  // shows the picked choice
+  const char *noMarkedChoice;           // of a number's option
+};
+
+/// The vendor kind prefix; a panel's kind is this and a suffix.
+#define KWOPDE_KIND_PREFIX "org.kwopde"
+
+class PanelBase : public Panel, public InterfaceOwner {
+public:
+  /// Makes a panel of class `P`, or null when the PPD lacks its key options; the callback is then
+  /// released again. The panel retains `callback` and `andBundle`; each may be null.
+  template <class P>
+  static std::shared_ptr<P> initWithCallback(const std::shared_ptr<HostCallback> &callback,
+                                             Bundle *andBundle) {
+    auto panel = std::make_shared<P>();
+    if (!panel->init(callback, andBundle)) return nullptr;
+    return panel;
+  }
+
+  ~PanelBase() override;
+
+  std::string_view className() const override { return traits_.className; }
+
+  // The contract with the host.
+  View *panelView() override;
+  const std::string *panelName() override;
+  std::string_view panelKind() override;
+  const std::vector<std::string> &supportedPPDOptionKeys() override;
+  void willShow() override;
+  bool shouldHide() override;
+  bool shouldPrint() override;
+  bool shouldShowHelp() override { return true; }
+  void PPDOptionKeyValueDidChange(const std::string *key, const std::string *ppdChoice) override;
+  bool restoreValuesAndReturnError(Error **error) override;
+  bool saveValuesAndReturnError(Error **error) override;
+  std::shared_ptr<const Dictionary> summaryInfo() override;
+  void getNonPPDSettingsFromPrintSettings() override {}
+  void writeNonPPDSettingsToPrintSettings() override {}
+  std::vector<std::string> optionKeys() const override;
+  std::vector<PanelControl> controls() const override;
+
+  // The contract with the interface file.
+  bool setOutlet(std::string_view outlet, const std::shared_ptr<View> &view) override;
+  bool performAction(std::string_view action) override;
+
+  // Reading what the PPD has marked. A number is read from the text of the marked choice, not from
+  // its keyword; without a marked choice the value stays as it is.
+  void queryIntFromPPD(int *value, const char *forKey);
+  void queryDoubleFromPPD(double *value, const char *forKey);
+  void queryNSStringFromPPD(std::optional<std::string> *value, const char *forKey);
+  void querySettingsFromPPD();
+
+  /// The index of the marked choice of `option`, whose keyword is `forKey`, or else of its default
+  /// choice; -1 when it has neither.
+  int indexOfMarkedOption(ppd_option_t *option, const char *forKey);
+  void updateMarkedSelections();
+
+  // Asking the host to mark a number, written as a choice keyword. A refusal is only traced.
+  void saveIntToPPD(int value, const std::string &FieldKey);
+  void saveDoubleToPPD(double value, const std::string &FieldKey);
+  void saveNSStringToPPD(const std::string &value, const std::string &FieldKey);
+  void saveSettingsToPPD();
+
+  // The controls.
+  void initializeUI();
+  void updateUI();
+  void querySettingsFromUI();
+
+  /// Asks the host to mark what `popUp` shows as the choice of `withKey`, and reads all selections
+  /// back. The picked choice when the host marks nothing, so that the panel keeps it itself; null
+  /// otherwise.
+  PDEChoice *selectionForPopUp(PopUpButton *popUp, const std::string &withKey);
+
+  /// Labels the subview of the panel's view that has the tag with the title of `fromOptions`.
+  void setViewTitleByTag(int tag, const ppd_option_t *fromOptions);
+
+  // In the order in which the panels declare them; public for the tables and for inspection.
+  std::shared_ptr<HostCallback> pdePluginCallbackObject;
+  std::optional<std::string> thePDEName;
+  Bundle *pluginBundle = nullptr;  // retained for good
+  bool useConstraintHandling = false;
+  bool hasInited = false;
+  ppd_file_t *ppd = nullptr;                                   // the host's
+  const std::vector<std::string> *supportedOptions = nullptr;  // made once, kept for good
+  std::shared_ptr<View> pdeView;
+
+protected:
+  explicit PanelBase(const PanelTraits &traits) : traits_(traits) {}
+
+  /// Releases the choice lists; a panel class calls it in its destructor, while it has them.
+  void releaseChoices();
+
+private:
+  bool init(const std::shared_ptr<HostCallback> &callback, Bundle *bundle);
+  bool isRefused() const;
+  void saveWhatIsShown();
+  void changeSelection(const PopUpRow &row);
+  void changeValue(const ValueRow &row);
+  std::string text(const ValueRow &row, const char *format) const;
+
+  /// The text shown for the marked choice of `key`; null when none is marked.
+  const char *markedText(const char *key) const;
+
+  /// Calls `visit` with the row of every outlet but the panel's view.
+  template <class Visit>
+  void forEachOutlet(Visit &&visit) const;
+
+  const PanelTraits &traits_;
+};
+
+}  // namespace kwopde

@@ -1,0 +1,26 @@
+// The principal class of the extension: it makes the panels.
+#pragma once
+
+#include <memory>
+
+#include "platform/PlugIn.h"
+
+namespace kwopde {
+
+class KWOPDEPlugIn final : public PlugIn {
+public:
+  std::string_view className() const override { return "KWOPDEPlugIn"; }
+
+  bool initWithBundle(Bundle *bundle) override;
+
+  /// The media panel (by the PPD's model number), the colour and the sharpen panel, in this order,
+  /// without those that the PPD has no use for.
+  const PanelList *PDEPanelsForType(const std::string *type,
+                                    const std::shared_ptr<HostCallback> &withHostInfo) override;
+
+private:
+  Bundle *pluginBundle_ = nullptr;  // the host's
+  std::shared_ptr<PanelList> PDEs_;
+};
+
+}  // namespace kwopde
