@@ -1,0 +1,14 @@
+// What has gone wrong, to be told to the person at the dialog or the terminal.
+#pragma once
+
+#include <stdexcept>
+
+namespace kwopde::host {
+
+/// One plain sentence: what happened, to which file or option, and why.
+class Error : public std::runtime_error {
+public:
+  using std::runtime_error::runtime_error;
+};
+
+}  // namespace kwopde::host

@@ -1,0 +1,71 @@
+// Drives the extension by a script of host calls and user actions, and writes down what happens.
+#pragma once
+
+#include <istream>
+#include <memory>
+#include <ostream>
+#include <string>
+#include <string_view>
+
+#include "host/PpdSession.h"
+#include "host/Script.h"
+#include "host/UserInput.h"
+#include "platform/LogSink.h"
+#include "platform/PlugIn.h"
+
+namespace kwopde::host {
+
+class ScriptRunner final : public SessionObserver, public LogSink {
+public:
+  /// Makes a plug-in of `module` to drive. The transcript goes to `out`, what is wrong with a
+  /// command to `errors`; all of them are borrowed.
+  ScriptRunner(PlugInModule &module, std::shared_ptr<PpdSession> session, UserInput &user,
+               std::ostream &out, std::ostream &errors);
+  ~ScriptRunner() override;
+
+  /// Runs every command of `script`. False when one of them could not be run.
+  bool run(std::istream &script);
+
+  void requestWasAnswered(const std::string *key, const std::string *choice, bool granted) override;
+  void willAnnounce(const OptionChoice &change) override;
+
+  /// Writes a line of the trace into the transcript.
+  void writeLine(std::string_view line) override;
+
+private:
+  struct Command;
+  struct PlugInOperation;
+  struct PanelOperation;
+  static const Command kCommands[];
+  static const PlugInOperation kPlugInOperations[];
+  static const PanelOperation kPanelOperations[];
+
+  /// The command's result, as the transcript shows it. Throws `Error`.
+  std::string perform(const std::vector<Word> &words);
+
+  std::string pick(const std::vector<Word> &words);
+  std::string slide(const std::vector<Word> &words);
+  std::string type(const std::vector<Word> &words);
+  std::string showControls(const std::vector<Word> &words);
+  std::string mark(const std::vector<Word> &words);
+  std::string refuse(const std::vector<Word> &words);
+  std::string showMarked(const std::vector<Word> &words);
+  std::string release(const std::vector<Word> &words);
+
+  PlugIn &plugIn() const;
+  Panel &panel(std::string_view word) const;
+  template <class Control>
+  Control &control(const Word &word, std::string_view kind) const;
+
+  void dropPlugIn();
+
+  std::shared_ptr<PpdSession> session_;
+  UserInput &user_;
+  std::ostream &out_;
+  std::ostream &errors_;
+  std::shared_ptr<Bundle> bundle_;
+  std::unique_ptr<PlugIn> plugIn_;
+  const PanelList *panels_ = nullptr;  // the plug-in's
+};
+
+}  // namespace kwopde::host

@@ -1,0 +1,15 @@
+// Finds and loads the extension's module.
+#pragma once
+
+#include <QString>
+
+#include "platform/PlugIn.h"
+
+namespace kwopde::host {
+
+/// The extension in `file`, or with an empty name the one that belongs to this program: what the
+/// environment variable KWOPDE_MODULE names, else the one beside the program, else the installed
+/// one. It stays loaded for the rest of the process. Throws `Error` when there is none.
+PlugInModule &loadModule(const QString &file = {});
+
+}  // namespace kwopde::host

@@ -1,0 +1,73 @@
+// The extension's panels and their summary as pages for the tabs of a dialog.
+#pragma once
+
+#include <QList>
+#include <QObject>
+#include <QPointer>
+#include <QWidget>
+#include <memory>
+
+#include "host/PpdSession.h"
+#include "platform/PlugIn.h"
+
+class QScrollArea;
+
+namespace kwopde::host {
+
+/// One panel. The panel hears that it is shown and left when its page is; its view is made when the
+/// page is first seen.
+class PanelPage final : public QWidget {
+  Q_OBJECT
+
+public:
+  /// `panel` is borrowed.
+  explicit PanelPage(Panel &panel);
+
+  QSize sizeHint() const override;
+
+  /// Shows the panel's own help, when the panel lets the dialog do so.
+  void showHelp();
+
+  /// Settles what is shown, for a job that is about to be sent.
+  void print();
+
+protected:
+  void showEvent(QShowEvent *event) override;
+  void hideEvent(QHideEvent *event) override;
+
+private:
+  QWidget *view();
+  void embed(QWidget *panelView);
+
+  Panel &panel_;
+  QScrollArea *area_;
+  bool seen_ = false;
+};
+
+class PanelPages final : public QObject {
+  Q_OBJECT
+
+public:
+  /// Makes the extension's panels for the PPD of `session` and lets them read what is marked.
+  PanelPages(PlugInModule &module, std::shared_ptr<PpdSession> session, QObject *parent = nullptr);
+
+  /// Destroys the pages that still exist, and drops the extension.
+  ~PanelPages() override;
+
+  /// The pages in order, the summary last; none when the PPD has no option of any panel. A page's
+  /// tab is titled with its windowTitle; its objectName is the same in every language. They belong
+  /// to the dialog that takes them.
+  QList<QWidget *> pages() const;
+
+  /// Settles what every panel shows; the session's marks are then those of the job.
+  void print();
+
+private:
+  std::shared_ptr<PpdSession> session_;
+  std::shared_ptr<Bundle> bundle_;
+  std::unique_ptr<PlugIn> plugIn_;
+  QList<QPointer<PanelPage>> panelPages_;
+  QPointer<QWidget> summaryPage_;
+};
+
+}  // namespace kwopde::host

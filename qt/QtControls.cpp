@@ -1,0 +1,118 @@
+#include "qt/QtControls.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QRegularExpression>
+#include <algorithm>
+#include <cmath>
+
+namespace kwopde::qt {
+
+namespace {
+
+QString fromUtf8(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+/// The number of steps that make 1, by the property "step".
+double stepsPerUnit(const QSlider &slider) {
+  const double step = slider.property("step").toDouble();
+  // Rounded, since a decimal step has no exact value: 1789 steps of 0.001 are 1.789.
+  return step > 0 ? std::max(std::round(1 / step), 1.0) : 1.0;
+}
+
+/// Whether an ampersand in the text of `widget` marks a mnemonic.
+bool showsMnemonic(const QWidget &widget) {
+  const auto *label = qobject_cast<const QLabel *>(&widget);
+  return label && label->buddy();
+}
+
+}  // namespace
+
+void QtPopUpButton::removeAllItems() {
+  items_.clear();
+  if (widget_) widget_->clear();
+}
+
+void QtPopUpButton::selectItemAtIndex(int index) {
+  if (widget_ && itemAtIndex(index)) widget_->setCurrentIndex(index);
+}
+
+int QtPopUpButton::indexOfSelectedItem() const {
+  return widget_ ? widget_->currentIndex() : 0;
+}
+
+void QtPopUpButton::addItem(MenuItem item) {
+  if (!widget_) return;
+  widget_->addItem(fromUtf8(item.title.value_or("")));
+  items_.push_back(std::move(item));
+}
+
+const MenuItem *QtPopUpButton::itemAtIndex(int index) const {
+  const auto i = static_cast<std::size_t>(index);
+  return index >= 0 && i < items_.size() ? &items_[i] : nullptr;
+}
+
+double QtSlider::doubleValue() const {
+  // The position, which leads the value while an action is being sent.
+  return widget_ ? widget_->sliderPosition() / stepsPerUnit(*widget_) : 0;
+}
+
+void QtSlider::setDoubleValue(double value) {
+  if (!widget_ || std::isnan(value)) return;
+  const double steps = std::round(value * stepsPerUnit(*widget_));
+  widget_->setValue(
+      static_cast<int>(std::clamp<double>(steps, widget_->minimum(), widget_->maximum())));
+}
+
+std::string QtTextField::stringValue() const {
+  if (!widget_) return {};
+  QString text = widget_->property("text").toString();
+  // "&x" shows as an underlined x, "&&" as an ampersand.
+  if (showsMnemonic(*widget_)) text.replace(QRegularExpression("&(.)"), "\\1");
+  return text.toStdString();
+}
+
+void QtTextField::setStringValue(std::string_view text) {
+  if (!widget_) return;
+  QString shown = fromUtf8(text);
+  if (showsMnemonic(*widget_)) shown.replace('&', "&&");
+  widget_->setProperty("text", shown);
+}
+
+TextField *QtPanelView::viewWithTag(int tag) {
+  if (!widget_) return nullptr;
+  for (QWidget *child : widget_->findChildren<QWidget *>()) {
+    const QVariant property = child->property("tag");
+    if (!property.isValid() || property.toInt() != tag) continue;
+    if (auto *field = dynamic_cast<TextField *>(control(child).get())) return field;
+  }
+  return nullptr;
+}
+
+std::shared_ptr<View> QtPanelView::control(QWidget *widget) {
+  const auto known = std::find_if(controls_.begin(), controls_.end(), [&](const auto &control) {
+    return control->nativeView() == widget;
+  });
+  if (known != controls_.end()) return *known;
+  std::shared_ptr<View> control;
+  if (auto *comboBox = qobject_cast<QComboBox *>(widget))
+    control = std::make_shared<QtPopUpButton>(comboBox);
+  else if (auto *slider = qobject_cast<QSlider *>(widget))
+    control = std::make_shared<QtSlider>(slider);
+  else if (qobject_cast<QLineEdit *>(widget) || qobject_cast<QLabel *>(widget))
+    control = std::make_shared<QtTextField>(widget);
+  if (control) controls_.push_back(control);
+  return control;
+}
+
+bool connectAction(QWidget *widget, std::function<void()> action) {
+  // Signals that only a user's doing sends.
+  if (auto *comboBox = qobject_cast<QComboBox *>(widget))
+    return QObject::connect(comboBox, &QComboBox::activated, comboBox, std::move(action));
+  if (auto *slider = qobject_cast<QSlider *>(widget))
+    return QObject::connect(slider, &QSlider::actionTriggered, slider, std::move(action));
+  return false;
+}
+
+}  // namespace kwopde::qt

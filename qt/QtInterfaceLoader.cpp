@@ -1,0 +1,56 @@
+#include "qt/QtInterfaceLoader.h"
+
+#include <QFile>
+#include <QUiLoader>
+#include <QtDebug>
+
+#include "qt/QtControls.h"
+
+namespace kwopde::qt {
+
+namespace {
+
+void connectControl(QtPanelView &view, QWidget *widget, InterfaceOwner &owner) {
+  const QString name = widget->objectName();
+  if (const auto control = view.control(widget); control && !name.isEmpty())
+    owner.setOutlet(name.toStdString(), control);
+  const auto action = widget->property("action").toString().toStdString();
+  if (action.empty()) return;
+  const auto perform = [&owner, action] {
+    if (!owner.performAction(action)) qWarning("No action %s", action.c_str());
+  };
+  if (!connectAction(widget, perform))
+    qWarning("%s cannot send its action %s", qPrintable(name), action.c_str());
+}
+
+}  // namespace
+
+QtInterfaceLoader::QtInterfaceLoader(QString folder) : folder_(std::move(folder)) {}
+
+QtInterfaceLoader::~QtInterfaceLoader() = default;
+
+bool QtInterfaceLoader::loadNibNamed(std::string_view name, InterfaceOwner &owner) {
+  if (!loader_) {
+    loader_ = std::make_unique<QUiLoader>();
+    loader_->clearPluginPaths();  // the files use Qt's own widgets only
+  }
+  QFile file(folder_ + '/' + QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())) +
+             ".ui");
+  QWidget *const top = file.open(QIODevice::ReadOnly) ? loader_->load(&file) : nullptr;
+  if (!top) {
+    qWarning("Interface file %s: %s", qPrintable(file.fileName()),
+             qPrintable(file.isOpen() ? loader_->errorString() : file.errorString()));
+    return false;
+  }
+  const auto view = std::make_shared<QtPanelView>(top);
+  if (top->objectName() != QLatin1String("pdeView")) {
+    qWarning("Interface file %s: the top-level widget is not named pdeView",
+             qPrintable(file.fileName()));
+    return false;
+  }
+  for (QWidget *child : top->findChildren<QWidget *>()) connectControl(*view, child, owner);
+  owner.setOutlet("pdeView", view);
+  return true;
+}
+
+}  // namespace kwopde::qt
