@@ -22,8 +22,8 @@ bool isNull(const char *text) {
 int positionInOption(const ppd_choice_t *choice, const ppd_option_t *option) {
   if (!choice || !option || option->num_choices <= 0) return 0;
   // Unsigned, so that a record before the first one is far out of range.
-  const auto distance = reinterpret_cast<std::uintptr_t>(choice) -
-                        reinterpret_cast<std::uintptr_t>(option->choices);
+  const auto distance =
+      reinterpret_cast<std::uintptr_t>(choice) - reinterpret_cast<std::uintptr_t>(option->choices);
   const auto index = distance / sizeof(ppd_choice_t);
   const auto count = static_cast<std::uintptr_t>(option->num_choices);
   return distance % sizeof(ppd_choice_t) == 0 && index < count ? static_cast<int>(index) + 1 : 0;

@@ -30,8 +30,7 @@ bool PpdSession::mark(const std::string &key, const std::string &choice) {
 void PpdSession::announce(const OptionChoice &change) {
   if (observer_) observer_->willAnnounce(change);
   if (!panels_) return;
-  for (const auto &panel : *panels_)
-    panel->PPDOptionKeyValueDidChange(&change.key, &change.choice);
+  for (const auto &panel : *panels_) panel->PPDOptionKeyValueDidChange(&change.key, &change.choice);
 }
 
 ppd_choice_t *PpdSession::findChoice(const std::string &key, const std::string &choice) const {

@@ -26,12 +26,16 @@ std::string takeQuoted(std::string_view &rest) {
 
 }  // namespace
 
+bool isBlank(std::string_view line) {
+  const auto start = line.find_first_not_of(kBlanks);
+  return start == line.npos || line[start] == '#';
+}
+
 std::vector<Word> splitWords(std::string_view line) {
   std::vector<Word> words;
   for (;;) {
-    const auto start = line.find_first_not_of(kBlanks);
-    if (start == line.npos || line[start] == '#') return words;
-    line.remove_prefix(start);
+    if (isBlank(line)) return words;
+    line.remove_prefix(line.find_first_not_of(kBlanks));
     std::string word;
     bool quoted = false;
     while (!line.empty() && kBlanks.find(line.front()) == kBlanks.npos) {

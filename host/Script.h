@@ -11,8 +11,11 @@ namespace kwopde::host {
 /// A word of a command; no text stands for `nil`.
 using Word = std::optional<std::string>;
 
-/// The words of `line`, a command without its line end; none for a blank line or a comment. Throws
-/// `Error` when a quoted word does not end.
+/// Whether `line` holds no command: it is blank or a comment.
+bool isBlank(std::string_view line);
+
+/// The words of `line`, a command without its line end; none when it is blank. Throws `Error` when
+/// a quoted word does not end.
 std::vector<Word> splitWords(std::string_view line);
 
 }  // namespace kwopde::host

@@ -96,10 +96,11 @@ auto find(const Table &table, std::string_view name) {
 
 void checkCount(const std::vector<Word> &words, std::size_t least, std::size_t most) {
   const auto count = words.size() - 1;
-  if (count < least)
-    throw Error(fmt::format("{} takes {} more word(s)", nameOf(words.front()), least - count));
-  if (count > most)
-    throw Error(fmt::format("{} takes {} word(s) less", nameOf(words.front()), count - most));
+  if (count >= least && count <= most) return;
+  const auto wanted = count < least ? least : most;
+  throw Error(fmt::format("{} takes {} {} {}, not {}", nameOf(words.front()),
+                          count < least ? "at least" : "at most", wanted,
+                          wanted == 1 ? "word" : "words", count));
 }
 
 }  // namespace
@@ -112,14 +113,10 @@ struct ScriptRunner::Command {
 };
 
 const ScriptRunner::Command ScriptRunner::kCommands[] = {
-    {"pick", 2, 2, &ScriptRunner::pick},
-    {"slide", 2, 2, &ScriptRunner::slide},
-    {"type", 2, 2, &ScriptRunner::type},
-    {"controls", 1, 1, &ScriptRunner::showControls},
-    {"mark", 2, 2, &ScriptRunner::mark},
-    {"refuse", 1, 1, &ScriptRunner::refuse},
-    {"marked", 0, 1, &ScriptRunner::showMarked},
-    {"release", 0, 0, &ScriptRunner::release},
+    {"pick", 2, 2, &ScriptRunner::pick},         {"slide", 2, 2, &ScriptRunner::slide},
+    {"type", 2, 2, &ScriptRunner::type},         {"controls", 1, 1, &ScriptRunner::showControls},
+    {"mark", 2, 2, &ScriptRunner::mark},         {"refuse", 1, 1, &ScriptRunner::refuse},
+    {"marked", 0, 1, &ScriptRunner::showMarked}, {"release", 0, 0, &ScriptRunner::release},
 };
 
 struct ScriptRunner::PlugInOperation {
@@ -150,56 +147,61 @@ struct ScriptRunner::PanelOperation {
   std::string (*run)(Panel &panel, const std::vector<Word> &words);
 };
 
-const ScriptRunner::PanelOperation ScriptRunner::kPanelOperations[] = {
-    {"panelView", 0, 0,
-     [](Panel &panel, const std::vector<Word> &) { return objectText(panel.panelView()); }},
-    {"panelName", 0, 0,
-     [](Panel &panel, const std::vector<Word> &) {
-       const std::string *name = panel.panelName();
-       return name ? quoted(*name) : "nil";
-     }},
-    {"panelKind", 0, 0,
-     [](Panel &panel, const std::vector<Word> &) { return quoted(panel.panelKind()); }},
-    {"supportedPPDOptionKeys", 0, 0,
-     [](Panel &panel, const std::vector<Word> &) {
-       return listText(panel.supportedPPDOptionKeys(), quoted);
-     }},
-    {"willShow", 0, 0,
-     [](Panel &panel, const std::vector<Word> &) {
-       panel.willShow();
-       return std::string("void");
-     }},
-    {"shouldHide", 0, 0,
-     [](Panel &panel, const std::vector<Word> &) { return yesOrNo(panel.shouldHide()); }},
-    {"shouldPrint", 0, 0,
-     [](Panel &panel, const std::vector<Word> &) { return yesOrNo(panel.shouldPrint()); }},
-    {"shouldShowHelp", 0, 0,
-     [](Panel &panel, const std::vector<Word> &) { return yesOrNo(panel.shouldShowHelp()); }},
-    {"PPDOptionKeyValueDidChange", 2, 2,
-     [](Panel &panel, const std::vector<Word> &words) {
-       panel.PPDOptionKeyValueDidChange(pointerTo(words[1]), pointerTo(words[2]));
-       return std::string("void");
-     }},
-    {"restoreValuesAndReturnError", 0, 0,
-     [](Panel &panel, const std::vector<Word> &) {
-       return yesOrNo(panel.restoreValuesAndReturnError(nullptr));
-     }},
-    {"saveValuesAndReturnError", 0, 0,
-     [](Panel &panel, const std::vector<Word> &) {
-       return yesOrNo(panel.saveValuesAndReturnError(nullptr));
-     }},
-    {"summaryInfo", 0, 0,
-     [](Panel &panel, const std::vector<Word> &) { return panel.summaryInfo()->description(); }},
-    {"getNonPPDSettingsFromPrintSettings", 0, 0,
-     [](Panel &panel, const std::vector<Word> &) {
-       panel.getNonPPDSettingsFromPrintSettings();
-       return std::string("void");
-     }},
-    {"writeNonPPDSettingsToPrintSettings", 0, 0,
-     [](Panel &panel, const std::vector<Word> &) {
-       panel.writeNonPPDSettingsToPrintSettings();
-       return std::string("void");
-     }},
+const ScriptRunner::PanelOperation
+    ScriptRunner::kPanelOperations[] =
+        {
+            {"panelView", 0, 0,
+             [](Panel &panel, const std::vector<Word> &) { return objectText(panel.panelView()); }},
+            {"panelName", 0, 0,
+             [](Panel &panel, const std::vector<Word> &) {
+               const std::string *name = panel.panelName();
+               return name ? quoted(*name) : "nil";
+             }},
+            {"panelKind", 0, 0,
+             [](Panel &panel, const std::vector<Word> &) { return quoted(panel.panelKind()); }},
+            {"supportedPPDOptionKeys", 0, 0,
+             [](Panel &panel, const std::vector<Word> &) {
+               return listText(panel.supportedPPDOptionKeys(), quoted);
+             }},
+            {"willShow", 0, 0,
+             [](Panel &panel, const std::vector<Word> &) {
+               panel.willShow();
+               return std::string("void");
+             }},
+            {"shouldHide", 0, 0,
+             [](Panel &panel, const std::vector<Word> &) { return yesOrNo(panel.shouldHide()); }},
+            {"shouldPrint", 0, 0,
+             [](Panel &panel, const std::vector<Word> &) { return yesOrNo(panel.shouldPrint()); }},
+            {"shouldShowHelp", 0, 0,
+             [](Panel &panel, const std::vector<Word> &) {
+               return yesOrNo(panel.shouldShowHelp());
+             }},
+            {"PPDOptionKeyValueDidChange", 2, 2,
+             [](Panel &panel, const std::vector<Word> &words) {
+               panel.PPDOptionKeyValueDidChange(pointerTo(words[1]), pointerTo(words[2]));
+               return std::string("void");
+             }},
+            {"restoreValuesAndReturnError", 0, 0,
+             [](Panel &panel,
+                const std::vector<Word>
+                    &) { return yesOrNo(panel.restoreValuesAndReturnError(nullptr)); }},
+            {"saveValuesAndReturnError", 0, 0,
+             [](Panel &panel, const std::vector<Word>
+                                  &) { return yesOrNo(panel.saveValuesAndReturnError(nullptr)); }},
+            {"summaryInfo", 0, 0,
+             [](
+                 Panel &panel,
+                 const std::vector<Word> &) { return panel.summaryInfo()->description(); }},
+            {"getNonPPDSettingsFromPrintSettings", 0, 0,
+             [](Panel &panel, const std::vector<Word> &) {
+               panel.getNonPPDSettingsFromPrintSettings();
+               return std::string("void");
+             }},
+            {"writeNonPPDSettingsToPrintSettings", 0, 0,
+             [](Panel &panel, const std::vector<Word> &) {
+               panel.writeNonPPDSettingsToPrintSettings();
+               return std::string("void");
+             }},
 };
 
 ScriptRunner::ScriptRunner(PlugInModule &module, std::shared_ptr<PpdSession> session,
@@ -223,11 +225,10 @@ bool ScriptRunner::run(std::istream &script) {
   std::string line;
   for (int number = 1; std::getline(script, line); ++number) {
     if (!line.empty() && line.back() == '\r') line.pop_back();
+    if (isBlank(line)) continue;
+    fmt::print(out_, "> {}\n", line);
     try {
-      const auto words = splitWords(line);
-      if (words.empty()) continue;
-      fmt::print(out_, "> {}\n", line);
-      const std::string result = perform(words);
+      const std::string result = perform(splitWords(line));
       fmt::print(out_, "= {}\n", result);
     } catch (const Error &error) {
       out_.flush();
@@ -329,8 +330,7 @@ std::string ScriptRunner::slide(const std::vector<Word> &words) {
 std::string ScriptRunner::type(const std::vector<Word> &words) {
   auto &field = control<TextField>(words[1], "field");
   if (!words[2]) throw Error("nil cannot be typed");
-  if (!user_.type(field, *words[2]))
-    throw Error(fmt::format("{} cannot be typed into", *words[1]));
+  if (!user_.type(field, *words[2])) throw Error(fmt::format("{} cannot be typed into", *words[1]));
   return "void";
 }
 

@@ -177,8 +177,7 @@ bool PanelBase::saveValuesAndReturnError(Error **error) {
 
 std::shared_ptr<const Dictionary> PanelBase::summaryInfo() {
   PDEProlog(this, "summaryInfo:");
-  const auto summary =
-      std::make_shared<Dictionary>(traits_.popUps.size() + traits_.values.size());
+  const auto summary = std::make_shared<Dictionary>(traits_.popUps.size() + traits_.values.size());
   for (const PopUpRow &row : traits_.popUps) {
     if (const PDEChoice *selection = this->*row.selection) {
       const auto title = CreateOptionTitle(this->*row.option);

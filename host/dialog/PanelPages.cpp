@@ -28,7 +28,7 @@ QString wordFor(std::string_view kind) {
 QList<QWidget *> focusChain(QWidget *top) {
   QList<QWidget *> chain;
   for (QWidget *next = top->nextInFocusChain(); next != top; next = next->nextInFocusChain())
-    if (top->isAncestorOf(next)) chain.append(next);
+    if (top->isAncestorOf(next) && next->focusPolicy() != Qt::NoFocus) chain.append(next);
   return chain;
 }
 
@@ -83,11 +83,13 @@ void PanelPage::embed(QWidget *panelView) {
   area_->setWidget(panelView);
   panelView->setAutoFillBackground(false);
   // Made late, its controls come last; they belong after the tab bar.
+  setFocusPolicy(Qt::TabFocus);  // without one, it has no place in the order
   QWidget *before = this;
   for (QWidget *control : controls) {
     setTabOrder(before, control);
     before = control;
   }
+  setFocusPolicy(Qt::NoFocus);
 }
 
 QWidget *PanelPage::view() {

@@ -1,0 +1,238 @@
+// Real input on real widgets, and interface files and translations that are not as they should be.
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QLabel>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "qt/QtBundle.h"
+#include "qt/QtControls.h"
+#include "tests/support/PanelFixture.h"
+
+namespace kwopde::test {
+namespace {
+
+/// A shown pop-up or slider that counts its actions.
+template <class Widget, class Control>
+struct Counted {
+  Counted() : control(&widget) {
+    qt::connectAction(&widget, [this] { ++actions; });
+    if constexpr (std::is_same_v<Widget, QComboBox>) widget.addItems({"a", "b", "c"});
+    widget.show();
+    QApplication::setActiveWindow(&widget);
+    widget.setFocus();
+  }
+  void wheel(int steps) {
+    const QPointF at = widget.rect().center();
+    QWheelEvent event(at, widget.mapToGlobal(at), {}, {0, steps * 120}, Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&widget, &event);
+  }
+  int actionsAfter(auto &&act) {
+    actions = 0;
+    act();
+    return actions;
+  }
+
+  Widget widget;
+  Control control;
+  int actions = 0;
+};
+
+TEST(QtPopUpButton, ActsForTheUserAndNotForCode) {
+  Counted<QComboBox, qt::QtPopUpButton> popUp;
+  EXPECT_EQ(popUp.actionsAfter([&] { QTest::keyClick(&popUp.widget, Qt::Key_Down); }), 1);
+  EXPECT_EQ(popUp.actionsAfter([&] { popUp.wheel(-1); }), 1);
+  EXPECT_EQ(popUp.control.indexOfSelectedItem(), 2);
+  EXPECT_EQ(popUp.actionsAfter([&] {
+    popUp.widget.showPopup();
+    auto *list = popUp.widget.view();
+    list->setCurrentIndex(list->model()->index(0, 0));
+    QTest::keyClick(list, Qt::Key_Return);
+  }),
+            1);
+  EXPECT_EQ(popUp.control.indexOfSelectedItem(), 0);
+  EXPECT_EQ(popUp.actionsAfter([&] {
+    popUp.control.removeAllItems();
+    for (int i = 0; i < 4; ++i) popUp.control.addItem({std::nullopt, nullptr});
+    popUp.control.selectItemAtIndex(3);
+    popUp.control.selectItemAtIndex(99);
+    popUp.control.selectItemAtIndex(-1);
+  }),
+            0);
+  EXPECT_EQ(popUp.control.indexOfSelectedItem(), 3);
+}
+
+TEST(QtSlider, ActsAtEveryStepOfTheUserAndNotForCode) {
+  Counted<QSlider, qt::QtSlider> slider;
+  slider.widget.setOrientation(Qt::Horizontal);
+  slider.widget.resize(200, 30);
+  EXPECT_EQ(slider.actionsAfter([&] { QTest::keyClick(&slider.widget, Qt::Key_Right); }), 1);
+  EXPECT_EQ(slider.actionsAfter([&] { slider.wheel(1); }), 1);
+  EXPECT_EQ(slider.actionsAfter([&] {
+    QTest::mouseClick(&slider.widget, Qt::LeftButton, {}, {190, 15});
+  }),
+            1);
+  slider.control.setIntValue(0);
+  std::vector<int> seen;
+  qt::connectAction(&slider.widget, [&] { seen.push_back(slider.control.intValue()); });
+  QTest::mousePress(&slider.widget, Qt::LeftButton, {}, {5, 15});
+  for (const int x : {60, 120, 190}) QTest::mouseMove(&slider.widget, {x, 15});
+  QTest::mouseRelease(&slider.widget, Qt::LeftButton, {}, {190, 15});
+  ASSERT_EQ(seen.size(), 3u);
+  EXPECT_TRUE(std::is_sorted(seen.begin(), seen.end()));
+  EXPECT_EQ(seen.back(), slider.widget.value());
+  EXPECT_EQ(slider.actionsAfter([&] { slider.control.setIntValue(7); }), 0);
+}
+
+TEST(QtSlider, CarriesFractionsAndRestsAtItsEnds) {
+  Counted<QSlider, qt::QtSlider> slider;
+  slider.widget.setProperty("step", 0.001);
+  slider.widget.setRange(100, 3000);
+  for (const double value : {1.789, 1.15, 0.29}) {
+    slider.control.setDoubleValue(value);
+    EXPECT_EQ(slider.control.doubleValue(), value);
+  }
+  slider.control.setDoubleValue(1e300);
+  EXPECT_EQ(slider.control.doubleValue(), 3);
+  slider.control.setDoubleValue(-1e300);
+  EXPECT_EQ(slider.control.doubleValue(), 0.1);
+  slider.control.setDoubleValue(std::numeric_limits<double>::quiet_NaN());
+  EXPECT_EQ(slider.control.doubleValue(), 0.1);
+}
+
+TEST(QtTextField, HasTheTextThatPeopleSee) {
+  QLabel label("&Tom && Jerry");
+  QLineEdit line("&a");
+  qt::QtTextField caption(&label);
+  EXPECT_EQ(caption.stringValue(), "&Tom && Jerry");
+  label.setBuddy(&line);
+  EXPECT_EQ(caption.stringValue(), "Tom & Jerry");
+  caption.setStringValue("A&B");
+  EXPECT_EQ(label.text(), QString("A&&B"));
+  EXPECT_EQ(qt::QtTextField(&line).stringValue(), "&a");
+}
+
+TEST(QtControls, OfWidgetsThatAreGoneDoNothing) {
+  auto box = std::make_unique<QComboBox>();
+  qt::QtPopUpButton popUp(box.get());
+  box.reset();
+  popUp.addItem({"a", nullptr});
+  popUp.selectItemAtIndex(0);
+  popUp.setEnabled(true);
+  EXPECT_FALSE(popUp.isEnabled());
+  EXPECT_EQ(popUp.indexOfSelectedItem(), 0);
+  EXPECT_EQ(popUp.nativeView(), nullptr);
+  EXPECT_EQ(popUp.className(), "QComboBox");
+}
+
+/// A panel whose interface file is `ui`.
+struct PanelWithFile : PanelOn<MediaPDE> {
+  explicit PanelWithFile(const QByteArray &ui) : PanelOn(kMediaOptions), files2(folder.path()) {
+    QFile file(folder.filePath("MediaPDE.ui"));
+    if (file.open(QIODevice::WriteOnly)) file.write(ui);
+  }
+  QTemporaryDir folder;
+  InterfaceFiles files2;
+};
+
+QByteArray ui(const QByteArray &name, const QByteArray &children) {
+  return "<ui version=\"4.0\"><class>MediaPDE</class><widget class=\"QWidget\" name=\"" + name +
+         "\">" + children + "</widget></ui>";
+}
+
+TEST(QtInterfaceLoader, BrokenFilesGiveNoView) {
+  for (const QByteArray &broken :
+       {QByteArray(), QByteArray("nonsense"), ui("pdeView", "<oops"), ui("somethingElse", "")}) {
+    PanelWithFile on(broken);
+    EXPECT_EQ(on.panel->panelView(), nullptr) << broken.toStdString();
+    on.panel->willShow();
+    EXPECT_TRUE(on.panel->shouldHide());
+    EXPECT_EQ(on.panel->pageScaleValue, 0);
+  }
+}
+
+TEST(QtInterfaceLoader, WrongControlsAndActionsStayUnconnected) {
+  const QByteArray action =
+      "<property name=\"action\" stdset=\"0\"><string>none:</string></property>";
+  PanelWithFile on(ui("pdeView",
+                      "<widget class=\"QLineEdit\" name=\"printQualityPopUp\"/>"
+                      "<widget class=\"QComboBox\" name=\"printFinishPopUp\">" +
+                          action +
+                          "</widget>"
+                          "<widget class=\"QComboBox\" name=\"unknownPopUp\"/>"
+                          "<widget class=\"QPushButton\" name=\"button\">" +
+                          action + "</widget>"));
+  on.shown();
+  EXPECT_FALSE(on.panel->printQualityPopUp);
+  EXPECT_TRUE(on.panel->printFinishPopUp);
+  on.user.pick(*on.panel->printFinishPopUp.get(), 1);
+  EXPECT_THAT(on.host->requests, testing::IsEmpty());
+  EXPECT_TRUE(on.panel->performAction("changePrintQualityOption:"));  // its outlet is missing
+  EXPECT_THAT(on.host->requests, testing::ElementsAre("printQuality=nil"));
+}
+
+TEST(QtInterfaceLoader, PanelAndWidgetsMayDieInAnyOrder) {
+  PanelOn<ColorPDE> on(option("colorMode", "C", "A", {{"A", "A"}}));
+  on.shown();
+  delete static_cast<QWidget *>(on.panel->pdeView->nativeView());
+  on.panel->willShow();
+  on.panel->shouldHide();
+  EXPECT_EQ(on.panel->controls().front().control->nativeView(), nullptr);
+}
+
+// Every caption leads to its control by a mnemonic, no two alike, and every control has a name for
+// those who cannot see it.
+TEST(InterfaceFiles, CanBeUsedByKeyboardAndScreenReader) {
+  const std::string all = kMediaOptions + option("colorMode", "C", "A", {{"A", "A"}}) +
+                          option("sharpnessEnabled", "S", "A", {{"A", "A"}});
+  PanelOn<MediaPDE> media(all);
+  PanelOn<Media7032PDE> extended(all);
+  PanelOn<ColorPDE> color(all);
+  PanelOn<SharpenPDE> sharpen(all);
+  for (PanelBase *panel : std::initializer_list<PanelBase *>{
+           media.panel.get(), extended.panel.get(), color.panel.get(), sharpen.panel.get()}) {
+    auto *view = static_cast<QWidget *>(panel->panelView()->nativeView());
+    QStringList mnemonics;
+    QSet<QWidget *> reached;
+    for (const QLabel *label : view->findChildren<QLabel *>()) {
+      ASSERT_NE(label->buddy(), nullptr) << label->objectName().toStdString();
+      reached.insert(label->buddy());
+      mnemonics.append(label->text().mid(label->text().indexOf('&') + 1, 1).toLower());
+    }
+    EXPECT_EQ(mnemonics.removeDuplicates(), 0) << panel->className();
+    EXPECT_FALSE(view->whatsThis().isEmpty());
+    for (QWidget *child : view->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly)) {
+      if (!qobject_cast<QComboBox *>(child) && !qobject_cast<QSlider *>(child) &&
+          !qobject_cast<QLineEdit *>(child))
+        continue;
+      EXPECT_FALSE(child->accessibleName().isEmpty()) << child->objectName().toStdString();
+      const bool besideSlider =
+          child->objectName().endsWith("Label") && qobject_cast<QLineEdit *>(child);
+      EXPECT_TRUE(besideSlider || reached.contains(child)) << child->objectName().toStdString();
+    }
+  }
+}
+
+TEST(QtBundle, SpeaksTheUsersLanguageElseEnglish) {
+  const std::string unknown = "Unknown";
+  const std::string value = "value";
+  const struct {
+    QLocale locale;
+    const char *name;
+  } rows[] = {{QLocale(QLocale::German), "Farbe"},
+              {QLocale(QLocale::Welsh), "Color"},
+              {QLocale::c(), "Color"}};
+  const QLocale before;
+  for (const auto &row : rows) {
+    QLocale::setDefault(row.locale);
+    const qt::QtBundle bundle(KWOPDE_TRANSLATIONS_FOLDER);
+    EXPECT_EQ(bundle.localizedStringForKey("ColorPanelName", nullptr, nullptr), row.name);
+    EXPECT_EQ(bundle.localizedStringForKey(unknown, &value, nullptr), value);
+    EXPECT_EQ(bundle.localizedStringForKey(unknown, nullptr, &value), unknown);
+  }
+  QLocale::setDefault(before);
+}
+
+}  // namespace
+}  // namespace kwopde::test
