@@ -1,6 +1,8 @@
 #include "tests/support/RecordingHost.h"
 
-#include <regex>
+#include <QRegularExpression>
+#include <QString>
+#include <utility>
 
 #include "plugin/PDELogging.h"
 
@@ -24,15 +26,17 @@ TraceRecorder::~TraceRecorder() {
 }
 
 std::vector<std::string> TraceRecorder::take() {
-  static const std::regex address("0x[1-9a-f][0-9a-f]*");
-  for (std::string &line : lines_) line = std::regex_replace(line, address, "0x1");
+  static const QRegularExpression address("0x[1-9a-f][0-9a-f]*");
+  for (std::string &line : lines_)
+    line = QString::fromStdString(line).replace(address, "0x1").toStdString();
   return std::exchange(lines_, {});
 }
 
 std::vector<std::string> TraceRecorder::takeMessages() {
-  static const std::regex self("^ *(BEGIN|END|LOG) self\\(<[^>]*>\\) ");
+  static const QRegularExpression self("^ *(BEGIN|END|LOG) self\\(<[^>]*>\\) ");
   auto lines = take();
-  for (std::string &line : lines) line = std::regex_replace(line, self, "$1 ");
+  for (std::string &line : lines)
+    line = QString::fromStdString(line).replace(self, "\\1 ").toStdString();
   return lines;
 }
 
