@@ -1,4 +1,6 @@
 // The whole dialog: the module as a program loads it, its panels in tabs, keys and Print.
+#include <fmt/format.h>
+
 #include <QApplication>
 #include <QDialogButtonBox>
 #include <QLabel>
@@ -55,7 +57,7 @@ protected:
   std::vector<std::string> changed() {
     std::vector<std::string> lines;
     for (const auto &[key, choice] : session_->changedChoices())
-      lines.push_back(key + "=" + choice);
+      lines.push_back(fmt::format("{}={}", key, choice));
     return lines;
   }
 

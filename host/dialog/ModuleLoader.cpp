@@ -15,7 +15,7 @@ namespace {
 constexpr const char *kFileName = "/kwopde-qt.so";
 
 QString usualModule() {
-  if (const QString named = qEnvironmentVariable("KWOPDE_MODULE"); !named.isEmpty()) return named;
+  if (QString named = qEnvironmentVariable("KWOPDE_MODULE"); !named.isEmpty()) return named;
   const QString beside = QCoreApplication::applicationDirPath() + kFileName;
   return QFile::exists(beside) ? beside : QString(KWOPDE_MODULE_FOLDER) + kFileName;
 }

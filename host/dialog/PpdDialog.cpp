@@ -23,7 +23,7 @@ QLabel *plainLabel(const QString &text) {
 
 }  // namespace
 
-PpdDialog::PpdDialog(PlugInModule &module, std::shared_ptr<PpdSession> session,
+PpdDialog::PpdDialog(PlugInModule &module, const std::shared_ptr<PpdSession> &session,
                      const QString &document, QWidget *parent)
     : QDialog(parent), pages_(module, session) {
   setWindowTitle(tr("Print"));

@@ -19,8 +19,8 @@ class PpdDialog final : public QDialog {
 
 public:
   /// `document` is the name to show for what is printed; empty for none.
-  PpdDialog(PlugInModule &module, std::shared_ptr<PpdSession> session, const QString &document,
-            QWidget *parent = nullptr);
+  PpdDialog(PlugInModule &module, const std::shared_ptr<PpdSession> &session,
+            const QString &document, QWidget *parent = nullptr);
 
   /// Opens each tab in turn and saves a picture of the dialog in `folder`, which is made when it is
   /// missing. The files' names; throws `Error` when one cannot be written.
