@@ -2,18 +2,29 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace kwopde::app {
 
 /// Exit statuses.
 constexpr int kDone = 0;
-constexpr int kNotDone = 1;   // cancelled, or a command of a script could not be run
+constexpr int kNotDone = 1;   // cancelled, not printed, or a command of a script could not be run
 constexpr int kBadInput = 2;  // the command line, or a file, cannot be used
 
 struct DialogOptions {
-  std::string ppd;
+  std::string ppd;             // a file; empty: a queue
+  std::string printer;         // empty: the default queue
   std::string snapshotFolder;  // empty: no pictures
-  std::string document;
+  std::vector<std::string> documents;
+  std::string trace = "syslog";
+};
+
+struct PrintOptions {
+  std::string printer;               // empty: the default queue
+  std::string script;                // empty: none; "-": standard input
+  std::vector<std::string> options;  // KEY=CHOICE
+  std::string title;                 // empty: the first document's name
+  std::vector<std::string> documents;
   std::string trace = "syslog";
 };
 
@@ -24,8 +35,10 @@ struct RunOptions {
   std::string trace;         // empty: into the transcript
 };
 
-/// Both need a QApplication. The exit status; they throw `host::Error` for bad input.
+/// All of them need a QApplication. The exit status; they throw `host::Error`, and `host::JobError`
+/// when the server or the printer is in the way.
 int dialog(const DialogOptions &options);
+int print(const PrintOptions &options);
 int run(const RunOptions &options);
 
 }  // namespace kwopde::app

@@ -3,27 +3,20 @@
 
 #include <CLI/CLI.hpp>
 #include <QApplication>
-#include <QLibraryInfo>
-#include <QTranslator>
 #include <cstdio>
 
 #include "app/Commands.h"
 #include "host/Error.h"
+#include "host/dialog/Translations.h"
 
 namespace {
 
 using namespace kwopde::app;
 
-constexpr const char *kTraceHelp = "Where the trace goes: stderr, syslog, or a file to append to";
-
-/// Qt's and the dialogs' own texts in the user's language.
-void translate(QApplication &application) {
-  const auto install = [&](const char *name, const QString &folder) {
-    auto *translator = new QTranslator(&application);
-    if (translator->load(QLocale(), name, "_", folder)) application.installTranslator(translator);
-  };
-  install("qtbase", QLibraryInfo::path(QLibraryInfo::TranslationsPath));
-  install("kwopde-host", ":/kwopde-host");
+CLI::Option *addTraceOption(CLI::App &command, std::string &where) {
+  return command
+      .add_option("--trace", where, "Where the trace goes: stderr, syslog, or a file to append to")
+      ->type_name("FILE|stderr|syslog");
 }
 
 }  // namespace
@@ -34,19 +27,44 @@ int main(int argc, char **argv) {
   commandLine.require_subcommand(1);
 
   DialogOptions dialogOptions;
-  auto *dialogCommand = commandLine.add_subcommand(
-      "dialog", "Opens the dialog; Print writes what a job has to carry, a line an option");
-  dialogCommand->add_option("--ppd", dialogOptions.ppd, "The printer's PPD file")
-      ->required()
-      ->type_name("FILE");
+  auto *dialogCommand =
+      commandLine.add_subcommand("dialog", "Opens the print dialog of a queue or of a PPD file");
+  auto *ppdOption = dialogCommand
+                        ->add_option("--ppd", dialogOptions.ppd,
+                                     "A printer's PPD file; prints nothing, but "
+                                     "lists what a job would carry")
+                        ->type_name("FILE");
+  dialogCommand
+      ->add_option("--printer", dialogOptions.printer,
+                   "A printer queue; the default one without --ppd and --printer")
+      ->type_name("QUEUE")
+      ->excludes(ppdOption);
   dialogCommand
       ->add_option("--snapshot", dialogOptions.snapshotFolder,
                    "Saves a picture of every tab there and prints at once")
       ->type_name("DIR");
-  dialogCommand->add_option("--trace", dialogOptions.trace, kTraceHelp)
-      ->type_name("FILE|stderr|syslog")
-      ->capture_default_str();
-  dialogCommand->add_option("document", dialogOptions.document, "What is to be printed")
+  addTraceOption(*dialogCommand, dialogOptions.trace)->capture_default_str();
+  dialogCommand->add_option("documents", dialogOptions.documents, "What is to be printed")
+      ->type_name("DOCUMENT");
+
+  PrintOptions printOptions;
+  auto *printCommand = commandLine.add_subcommand(
+      "print", "Sends documents to a queue as one job, without a dialog");
+  printCommand->add_option("--printer", printOptions.printer, "The queue; else the default one")
+      ->type_name("QUEUE");
+  printCommand
+      ->add_option("--script", printOptions.script,
+                   "Sets the panels by this script first; - is standard input")
+      ->type_name("SCRIPT");
+  printCommand
+      ->add_option("-o", printOptions.options,
+                   "An option of the printer, or an attribute of the job such as copies=2")
+      ->type_name("KEY=CHOICE")
+      ->allow_extra_args(false);
+  printCommand->add_option("--title", printOptions.title, "The job's title")->type_name("TITLE");
+  addTraceOption(*printCommand, printOptions.trace)->capture_default_str();
+  printCommand->add_option("documents", printOptions.documents, "What to print")
+      ->required()
       ->type_name("DOCUMENT");
 
   RunOptions runOptions;
@@ -57,9 +75,7 @@ int main(int argc, char **argv) {
       ->type_name("FILE");
   runCommand->add_flag("--no-constraint-handling", runOptions.noConstraintHandling,
                        "Acts as a host that marks nothing on request");
-  runCommand->add_option("--trace", runOptions.trace, kTraceHelp)
-      ->type_name("FILE|stderr|syslog")
-      ->default_str("the transcript");
+  addTraceOption(*runCommand, runOptions.trace)->default_str("the transcript");
   runCommand->add_option("script", runOptions.script, "The script; - is standard input")
       ->type_name("SCRIPT")
       ->capture_default_str();
@@ -71,13 +87,17 @@ int main(int argc, char **argv) {
   }
 
   try {
-    if (*runCommand) qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (!*dialogCommand) qputenv("QT_QPA_PLATFORM", "offscreen");
     int qtArgc = 1;
     QApplication application(qtArgc, argv);
     QApplication::setApplicationName("kwopde");
     QApplication::setApplicationVersion(KWOPDE_VERSION);
-    translate(application);
-    return *runCommand ? run(runOptions) : dialog(dialogOptions);
+    kwopde::host::installTranslations();
+    if (*dialogCommand) return dialog(dialogOptions);
+    return *printCommand ? print(printOptions) : run(runOptions);
+  } catch (const kwopde::host::JobError &error) {
+    fmt::print(stderr, "kwopde: {}\n", error.what());
+    return kNotDone;
   } catch (const kwopde::host::Error &error) {
     fmt::print(stderr, "kwopde: {}\n", error.what());
     return kBadInput;

@@ -11,4 +11,10 @@ public:
   using std::runtime_error::runtime_error;
 };
 
+/// The same about a job: the printer or its server is in the way, not what was asked for.
+class JobError : public Error {
+public:
+  using Error::Error;
+};
+
 }  // namespace kwopde::host

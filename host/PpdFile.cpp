@@ -1,6 +1,7 @@
 #include "host/PpdFile.h"
 
 #include <fmt/format.h>
+#include <utf8.h>
 
 #include <cerrno>
 #include <cstdio>
@@ -24,6 +25,21 @@ void visitGroups(const ppd_group_t *groups, int count,
   }
 }
 
+/// Cuts `text` before the character that is not whole, if it ends in one.
+void trimToWholeCharacters(char *text) {
+  char *const end = text + std::strlen(text);
+  char *const valid = utf8::find_invalid(text, end);
+  // Bytes that are wrong for another reason stay, to be reported.
+  if (valid != end && end - valid < 4 && static_cast<unsigned char>(*valid) >= 0xC2) *valid = 0;
+}
+
+void trimTexts(ppd_file_t &ppd) {
+  for (ppd_option_t *option = ppdFirstOption(&ppd); option; option = ppdNextOption(&ppd)) {
+    trimToWholeCharacters(option->text);
+    for (int i = 0; i < option->num_choices; ++i) trimToWholeCharacters(option->choices[i].text);
+  }
+}
+
 }  // namespace
 
 PpdFile PpdFile::open(const std::string &path) {
@@ -32,6 +48,8 @@ PpdFile PpdFile::open(const std::string &path) {
   if (!stream || (std::getc(stream.get()) == EOF && std::ferror(stream.get())))
     throw Error(fmt::format("{}: {}", path, std::strerror(errno)));
   if (ppd_file_t *ppd = ppdOpenFile(path.c_str())) {
+    ppdLocalize(ppd);
+    trimTexts(*ppd);
     ppdMarkDefaults(ppd);
     return PpdFile(ppd);
   }
@@ -42,6 +60,19 @@ PpdFile PpdFile::open(const std::string &path) {
 
 std::string PpdFile::nickname() const {
   return ppd_->nickname ? ppd_->nickname : "";
+}
+
+std::string PpdFile::textOf(const std::string &key) const {
+  const ppd_option_t *option = ppdFindOption(get(), key.c_str());
+  return option && *option->text ? option->text : key;
+}
+
+std::string PpdFile::textOf(const std::string &key, const std::string &choice) const {
+  ppd_option_t *option = ppdFindOption(get(), key.c_str());
+  const ppd_choice_t *found = option ? ppdFindChoice(option, choice.c_str()) : nullptr;
+  // A custom value is best told by its number.
+  if (choice.starts_with("Custom.")) return choice.substr(7);
+  return found && *found->text ? found->text : choice;
 }
 
 void PpdFile::forEachOption(const std::function<void(const ppd_option_t &)> &visit) const {

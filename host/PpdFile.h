@@ -11,8 +11,9 @@ namespace kwopde::host {
 
 class PpdFile {
 public:
-  /// Opens the PPD at `path` and marks its defaults. Throws `Error` with the file, the line and the
-  /// CUPS library's reason when it cannot be read.
+  /// Opens the PPD at `path`, puts its texts into the user's language, trims those that a field of
+  /// the records has cut in the middle of a character, and marks the defaults. Throws `Error` with
+  /// the file, the line and the CUPS library's reason when it cannot be read.
   static PpdFile open(const std::string &path);
 
   /// Owned by this object.
@@ -20,6 +21,11 @@ public:
 
   /// The printer's name for people.
   std::string nickname() const;
+
+  /// The text for people of an option, or of one of its choices; the keyword when it has none, or
+  /// the PPD does not have it.
+  std::string textOf(const std::string &key) const;
+  std::string textOf(const std::string &key, const std::string &choice) const;
 
   /// Calls `visit` for every option, group by group.
   void forEachOption(const std::function<void(const ppd_option_t &)> &visit) const;

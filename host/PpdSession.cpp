@@ -1,6 +1,6 @@
 #include "host/PpdSession.h"
 
-#include <cstring>
+#include "host/CupsOptions.h"
 
 namespace kwopde::host {
 
@@ -12,43 +12,108 @@ bool PpdSession::respondsToSelector(std::string_view selector) const {
 }
 
 bool PpdSession::willChangePPDOptionKeyValue(const std::string *key, const std::string *ppdChoice) {
-  const ppd_choice_t *choice =
-      key && ppdChoice && !refusesAll_ ? findChoice(*key, *ppdChoice) : nullptr;
-  if (choice) ppdMarkOption(ppd_.get(), choice->option->keyword, choice->choice);
-  if (observer_) observer_->requestWasAnswered(key, ppdChoice, choice != nullptr);
-  return choice != nullptr;
+  const Answer given = answer(key, ppdChoice);
+  for (SessionObserver *observer : observers_) observer->requestWasAnswered(key, ppdChoice, given);
+  for (const OptionChoice &change : given.changes) announce(change);
+  return given.granted();
+}
+
+Answer PpdSession::answer(const std::string *key, const std::string *requested) {
+  using Reason = Answer::Reason;
+  ppd_option_t *option = key && requested ? ppdFindOption(ppd_.get(), key->c_str()) : nullptr;
+  if (!option) return {Reason::unknownOption, {}, {}};
+  if (refusesAll_) return {Reason::unwilling, {}, {}};
+  const auto wanted = findMarkable(ppd_.get(), *option, *requested);
+  if (!wanted) {
+    const bool isNumber = wholeNumber(*requested) && customLimits(ppd_.get(), *option);
+    return {isNumber ? Reason::outsideLimits : Reason::unlisted, {}, {}};
+  }
+
+  // Neither of the library's two calls marks anything.
+  const std::string keyword = wanted->keyword();
+  CupsOptions conflicting;
+  conflicting.count =
+      cupsGetConflicts(ppd_.get(), option->keyword, keyword.c_str(), &conflicting.options);
+  Answer given{Reason::granted, conflicting.others(option->keyword), {}};
+  if (conflicting.count > 0) {
+    CupsOptions resolved;
+    if (!cupsResolveConflicts(ppd_.get(), option->keyword, keyword.c_str(), &resolved.count,
+                              &resolved.options)) {
+      given.reason = Reason::conflict;
+      return given;
+    }
+    for (const OptionChoice &change : resolved.others(option->keyword)) {
+      ppd_option_t *other = ppdFindOption(ppd_.get(), change.key.c_str());
+      const auto choice = other ? findMarkable(ppd_.get(), *other, change.choice) : std::nullopt;
+      if (!choice || markedChoice(change.key) == choice->keyword()) continue;
+      setMark(*other, *choice);
+      given.changes.push_back({other->keyword, choice->keyword()});
+    }
+  }
+  setMark(*option, *wanted);
+  return given;
+}
+
+void PpdSession::markSaved(const std::vector<OptionChoice> &saved) {
+  const CupsOptions options(saved);
+  cupsMarkOptions(ppd_.get(), options.count, options.options);
+  for (const auto &[key, choice] : saved) {
+    ppd_option_t *option = ppdFindOption(ppd_.get(), key.c_str());
+    const auto found = option ? findMarkable(ppd_.get(), *option, choice) : std::nullopt;
+    if (found) setMark(*option, *found);
+  }
 }
 
 bool PpdSession::mark(const std::string &key, const std::string &choice) {
-  const ppd_choice_t *found = findChoice(key, choice);
+  ppd_option_t *option = ppdFindOption(ppd_.get(), key.c_str());
+  const auto found = option ? findMarkable(ppd_.get(), *option, choice) : std::nullopt;
   if (!found) return false;
-  ppdMarkOption(ppd_.get(), found->option->keyword, found->choice);
-  announce({found->option->keyword, found->choice});
+  setMark(*option, *found);
+  announce({option->keyword, found->keyword()});
   return true;
 }
 
+void PpdSession::setMark(const ppd_option_t &option, const MarkableChoice &choice) {
+  ppdMarkOption(ppd_.get(), option.keyword, choice.keyword().c_str());
+  const std::string key = option.keyword;
+  ppd_choice_t *const custom = ppdFindChoice(const_cast<ppd_option_t *>(&option), "Custom");
+  if (!custom) return;
+  // The panels read numbers from the text of the marked choice.
+  const auto ownText = customTexts_.try_emplace(key, custom->text).first;
+  const std::string &text = choice.number.empty() ? ownText->second : choice.number;
+  custom->text[text.copy(custom->text, PPD_MAX_TEXT - 1)] = 0;
+  customNumbers_[key] = choice.number;
+}
+
 void PpdSession::announce(const OptionChoice &change) {
-  if (observer_) observer_->willAnnounce(change);
+  // A panel reads a number from the keyword that it is told.
+  OptionChoice told = change;
+  if (const auto number = customNumbers_.find(change.key);
+      number != customNumbers_.end() && !number->second.empty())
+    told.choice = number->second;
+  for (SessionObserver *observer : observers_) observer->willAnnounce(told);
   if (!panels_) return;
-  for (const auto &panel : *panels_) panel->PPDOptionKeyValueDidChange(&change.key, &change.choice);
+  for (const auto &panel : *panels_) panel->PPDOptionKeyValueDidChange(&told.key, &told.choice);
 }
 
-ppd_choice_t *PpdSession::findChoice(const std::string &key, const std::string &choice) const {
-  ppd_option_t *option = ppdFindOption(ppd_.get(), key.c_str());
-  return option ? ppdFindChoice(option, choice.c_str()) : nullptr;
-}
-
-const char *PpdSession::markedChoice(const std::string &key) const {
+std::optional<std::string> PpdSession::markedChoice(const std::string &key) const {
   const ppd_choice_t *choice = ppdFindMarkedChoice(ppd_.get(), key.c_str());
-  return choice ? choice->choice : nullptr;
+  if (!choice) return {};
+  const auto number = customNumbers_.find(choice->option->keyword);
+  const bool isCustom = number != customNumbers_.end() && !number->second.empty();
+  return isCustom ? "Custom." + number->second : choice->choice;
+}
+
+std::optional<CustomLimits> PpdSession::limits(const std::string &key) const {
+  const ppd_option_t *option = ppdFindOption(ppd_.get(), key.c_str());
+  return option ? customLimits(ppd_.get(), *option) : std::nullopt;
 }
 
 std::vector<OptionChoice> PpdSession::changedChoices() const {
   std::vector<OptionChoice> changed;
   ppd_.forEachOption([&](const ppd_option_t &option) {
-    const char *marked = markedChoice(option.keyword);
-    if (marked && std::strcmp(marked, option.defchoice) != 0)
-      changed.push_back({option.keyword, marked});
+    const auto marked = markedChoice(option.keyword);
+    if (marked && *marked != option.defchoice) changed.push_back({option.keyword, *marked});
   });
   return changed;
 }

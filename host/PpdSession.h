@@ -1,22 +1,42 @@
-// The host's side of the contract: it holds the PPD open, marks what the panels ask for, and tells
-// the panels what it marked by itself.
+// The host's side of the contract: it holds the PPD open, marks what the panels ask for, keeps the
+// printer's constraints, and tells the panels what it marked by itself.
 #pragma once
 
+#include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "host/NumericChoice.h"
 #include "host/PpdFile.h"
 #include "platform/HostCallback.h"
 #include "platform/PlugIn.h"
 
 namespace kwopde::host {
 
-/// An option's keyword and the keyword of a choice.
+/// An option's keyword and the keyword of a choice; a custom value is "Custom.NUMBER".
 struct OptionChoice {
   std::string key;
   std::string choice;
+};
+
+/// What became of a request, and why.
+struct Answer {
+  enum class Reason {
+    granted,
+    unwilling,      // the session refuses everything
+    unknownOption,  // the PPD has no such option, or the request is null
+    unlisted,       // the option has no such choice
+    outsideLimits,  // nor takes the number as a custom value
+    conflict,       // with `conflicts`, and nothing resolves it
+  };
+  Reason reason;
+  std::vector<OptionChoice> conflicts;  // marked choices that the requested one does not go with
+  std::vector<OptionChoice> changes;    // what was marked instead of them
+
+  bool granted() const { return reason == Reason::granted; }
 };
 
 /// Hears what a session does, as it happens.
@@ -30,7 +50,7 @@ public:
   /// A panel's request was answered; nothing has been announced yet. Null arguments are as the
   /// panel sent them.
   virtual void requestWasAnswered(const std::string *key, const std::string *choice,
-                                  bool granted) = 0;
+                                  const Answer &answer) = 0;
 
   /// Every panel is about to be told that the host marked `change` by itself.
   virtual void willAnnounce(const OptionChoice &change) = 0;
@@ -46,12 +66,18 @@ public:
   ppd_file_t *ppdFile() override { return ppd_.get(); }
   bool respondsToSelector(std::string_view selector) const override;
 
-  /// Marks a choice that the PPD lists and grants the request; refuses every other.
+  /// Grants a choice that the PPD lists, in whatever spelling of a number, and a number inside the
+  /// limits of the option's custom value. Where the choice conflicts with other marked ones, those
+  /// are changed and announced, and never the requested one; when nothing resolves the conflict,
+  /// the request is refused and every mark is as before.
   bool willChangePPDOptionKeyValue(const std::string *key, const std::string *ppdChoice) override;
 
-  /// Marks a listed choice by the host's own will and announces it. False when the PPD has no such
-  /// option or choice; nothing is changed then.
+  /// Marks such a choice by the host's own will, constraints or not, and announces it. False when
+  /// the PPD does not have it; nothing is changed then.
   bool mark(const std::string &key, const std::string &choice);
+
+  /// Marks what the user has saved for the printer; what the PPD does not have is passed over.
+  void markSaved(const std::vector<OptionChoice> &saved);
 
   /// Whether every request is refused from now on.
   void refuseAll(bool refuse) { refusesAll_ = refuse; }
@@ -59,27 +85,34 @@ public:
   /// The panels to announce to, in order; borrowed from the plug-in. Null when there are none.
   void setPanels(const PanelList *panels) { panels_ = panels; }
 
-  /// Borrowed; null when nobody listens.
-  void setObserver(SessionObserver *observer) { observer_ = observer; }
+  /// `observer` is borrowed until it is removed. Observers hear in the order of adding.
+  void addObserver(SessionObserver *observer) { observers_.push_back(observer); }
+  void removeObserver(SessionObserver *observer) { std::erase(observers_, observer); }
 
   const PpdFile &ppd() const { return ppd_; }
 
-  /// The keyword of the marked choice of `key`, owned by the PPD; null when there is none.
-  const char *markedChoice(const std::string &key) const;
+  /// The keyword of the marked choice of `key`; none when none is marked.
+  std::optional<std::string> markedChoice(const std::string &key) const;
+
+  /// The limits of the option's custom value; none when it takes none.
+  std::optional<CustomLimits> limits(const std::string &key) const;
 
   /// The marked choices that differ from the PPD's defaults, in the PPD's order: what a job has to
   /// carry.
   std::vector<OptionChoice> changedChoices() const;
 
 private:
-  ppd_choice_t *findChoice(const std::string &key, const std::string &choice) const;
+  Answer answer(const std::string *key, const std::string *requested);
+  void setMark(const ppd_option_t &option, const MarkableChoice &choice);
   void announce(const OptionChoice &change);
 
   PpdFile ppd_;
   bool constraintHandling_;
   bool refusesAll_ = false;
   const PanelList *panels_ = nullptr;
-  SessionObserver *observer_ = nullptr;
+  std::vector<SessionObserver *> observers_;
+  std::map<std::string, std::string> customNumbers_;  // by option, of what is marked as custom
+  std::map<std::string, std::string> customTexts_;    // by option, the PPD's own
 };
 
 }  // namespace kwopde::host

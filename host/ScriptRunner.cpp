@@ -212,12 +212,12 @@ ScriptRunner::ScriptRunner(PlugInModule &module, std::shared_ptr<PpdSession> ses
       errors_(errors),
       bundle_(module.bundle()),
       plugIn_(module.makePlugIn()) {
-  session_->setObserver(this);
+  session_->addObserver(this);
 }
 
 ScriptRunner::~ScriptRunner() {
   dropPlugIn();
-  session_->setObserver(nullptr);
+  session_->removeObserver(this);
 }
 
 bool ScriptRunner::run(std::istream &script) {
@@ -240,9 +240,9 @@ bool ScriptRunner::run(std::istream &script) {
 }
 
 void ScriptRunner::requestWasAnswered(const std::string *key, const std::string *choice,
-                                      bool granted) {
+                                      const Answer &answer) {
   fmt::print(out_, "host: {} {} {}\n", key ? *key : "nil", choice ? *choice : "nil",
-             granted ? "granted" : "refused");
+             answer.granted() ? "granted" : "refused");
 }
 
 void ScriptRunner::willAnnounce(const OptionChoice &change) {
@@ -353,15 +353,14 @@ std::string ScriptRunner::refuse(const std::vector<Word> &words) {
 
 std::string ScriptRunner::showMarked(const std::vector<Word> &words) {
   if (words.size() > 1) {
-    const char *choice = words[1] ? session_->markedChoice(*words[1]) : nullptr;
-    return choice ? quoted(choice) : "nil";
+    const auto choice = words[1] ? session_->markedChoice(*words[1]) : std::nullopt;
+    return choice ? quoted(*choice) : "nil";
   }
   if (panels_)
     for (const auto &panel : *panels_)
       for (const std::string &key : panel->optionKeys()) {
         if (!ppdFindOption(session_->ppdFile(), key.c_str())) continue;
-        const char *choice = session_->markedChoice(key);
-        fmt::print(out_, "{} = {}\n", key, choice ? choice : "nil");
+        fmt::print(out_, "{} = {}\n", key, session_->markedChoice(key).value_or("nil"));
       }
   return "void";
 }

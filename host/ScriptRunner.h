@@ -26,7 +26,8 @@ public:
   /// Runs every command of `script`. False when one of them could not be run.
   bool run(std::istream &script);
 
-  void requestWasAnswered(const std::string *key, const std::string *choice, bool granted) override;
+  void requestWasAnswered(const std::string *key, const std::string *choice,
+                          const Answer &answer) override;
   void willAnnounce(const OptionChoice &change) override;
 
   /// Writes a line of the trace into the transcript.

@@ -22,7 +22,8 @@ using testing::ElementsAre;
 
 class Requests final : public host::SessionObserver {
 public:
-  void requestWasAnswered(const std::string *key, const std::string *choice, bool) override {
+  void requestWasAnswered(const std::string *key, const std::string *choice,
+                          const host::Answer &) override {
     all.push_back(*key + "=" + *choice);
   }
   void willAnnounce(const OptionChoice &) override {}
@@ -33,7 +34,7 @@ class Dialog : public testing::Test {
 protected:
   void open(const std::string &sample) {
     session_ = std::make_shared<host::PpdSession>(host::PpdFile::open(samplePath(sample)));
-    session_->setObserver(&requests_);
+    session_->addObserver(&requests_);
     PlugInModule &module = host::loadModule();
     module.setLogSink(&trace_);
     dialog_.emplace(module, session_, "photo.png");

@@ -50,7 +50,7 @@ TEST(PpdSession, MarksWhatIsListedAndRefusesTheRest) {
   EXPECT_FALSE(session.willChangePPDOptionKeyValue(&unknown, &listed));
   EXPECT_FALSE(session.willChangePPDOptionKeyValue(nullptr, &listed));
   EXPECT_FALSE(session.willChangePPDOptionKeyValue(&key, nullptr));
-  EXPECT_STREQ(session.markedChoice(key), "100");
+  EXPECT_EQ(session.markedChoice(key), "100");
   EXPECT_TRUE(session.changedChoices().empty());
   EXPECT_TRUE(session.willChangePPDOptionKeyValue(&key, &listed));
   session.refuseAll(true);
@@ -60,7 +60,7 @@ TEST(PpdSession, MarksWhatIsListedAndRefusesTheRest) {
   EXPECT_EQ(session.changedChoices()[0].choice, "85");
   EXPECT_TRUE(session.mark("mirrorImage", "Horizontal"));
   EXPECT_FALSE(session.mark("mirrorImage", "Diagonal"));
-  EXPECT_EQ(session.markedChoice("nothing"), nullptr);
+  EXPECT_EQ(session.markedChoice("nothing"), std::nullopt);
 }
 
 TEST(Script, SplitsLinesIntoWords) {

@@ -1,7 +1,10 @@
 #include "host/dialog/ModuleLoader.h"
 
+#include <dlfcn.h>
+
 #include <QCoreApplication>
 #include <QFile>
+#include <QFileInfo>
 #include <QPluginLoader>
 
 #include "host/Error.h"
@@ -14,10 +17,21 @@ namespace {
 
 constexpr const char *kFileName = "/kwopde-qt.so";
 
+/// The folder of the program or library that this code is in.
+QString ownFolder() {
+  Dl_info info{};
+  return dladdr(reinterpret_cast<void *>(&ownFolder), &info) != 0
+             ? QFileInfo(QFile::decodeName(info.dli_fname)).absolutePath()
+             : QString();
+}
+
 QString usualModule() {
   if (QString named = qEnvironmentVariable("KWOPDE_MODULE"); !named.isEmpty()) return named;
-  const QString beside = QCoreApplication::applicationDirPath() + kFileName;
-  return QFile::exists(beside) ? beside : QString(KWOPDE_MODULE_FOLDER) + kFileName;
+  const QString program = QCoreApplication::applicationDirPath();
+  const QString installed = program + "/" KWOPDE_LIBRARIES_FROM_PROGRAMS "/kwopde";
+  for (const QString &folder : {program, installed, ownFolder() + "/kwopde"})
+    if (QFile::exists(folder + kFileName)) return folder + kFileName;
+  return installed + kFileName;
 }
 
 }  // namespace

@@ -8,8 +8,9 @@
 namespace kwopde::host {
 
 /// The extension in `file`, or with an empty name the one that belongs to this program: what the
-/// environment variable KWOPDE_MODULE names, else the one beside the program, else the installed
-/// one. It stays loaded for the rest of the process. Throws `Error` when there is none.
+/// environment variable KWOPDE_MODULE names, else the one beside the program, else the one that was
+/// installed with the program or with the library that this is part of. It stays loaded for the
+/// rest of the process. Throws `Error` when there is none.
 PlugInModule &loadModule(const QString &file = {});
 
 }  // namespace kwopde::host

@@ -1,9 +1,7 @@
 #include "host/dialog/PanelPages.h"
 
 #include <QHideEvent>
-#include <QScrollArea>
 #include <QShowEvent>
-#include <QVBoxLayout>
 #include <QWhatsThis>
 
 #include "host/dialog/SummaryPage.h"
@@ -24,32 +22,11 @@ QString wordFor(std::string_view kind) {
   return QString::fromUtf8(kind.data(), static_cast<qsizetype>(kind.size()));
 }
 
-/// The widgets below `top` in the order in which the tab key visits them.
-QList<QWidget *> focusChain(QWidget *top) {
-  QList<QWidget *> chain;
-  for (QWidget *next = top->nextInFocusChain(); next != top; next = next->nextInFocusChain())
-    if (top->isAncestorOf(next) && next->focusPolicy() != Qt::NoFocus) chain.append(next);
-  return chain;
-}
-
 }  // namespace
 
-PanelPage::PanelPage(Panel &panel) : panel_(panel), area_(new QScrollArea) {
+PanelPage::PanelPage(Panel &panel) : panel_(panel) {
   setWindowTitle(titleOf(panel));
   setObjectName(wordFor(panel.panelKind()));
-  auto *layout = new QVBoxLayout(this);
-  layout->setContentsMargins(0, 0, 0, 0);
-  layout->addWidget(area_);
-  // It scrolls where a large font does not leave the panel room.
-  area_->setFrameShape(QFrame::NoFrame);
-  area_->setWidgetResizable(true);
-  area_->setFocusPolicy(Qt::NoFocus);
-  area_->viewport()->setAutoFillBackground(false);
-}
-
-QSize PanelPage::sizeHint() const {
-  // A panel's usual size, which is not known before its view is made.
-  return {fontMetrics().averageCharWidth() * 72, fontMetrics().height() * 24};
 }
 
 void PanelPage::showHelp() {
@@ -65,31 +42,17 @@ void PanelPage::print() {
 }
 
 void PanelPage::showEvent(QShowEvent *event) {
-  QWidget::showEvent(event);
+  Page::showEvent(event);
   if (event->spontaneous()) return;
-  if (QWidget *panelView = view(); panelView && !seen_) embed(panelView);
+  if (QWidget *panelView = view(); panelView && !seen_) setContent(panelView);
   panel_.willShow();
   seen_ = true;
 }
 
 void PanelPage::hideEvent(QHideEvent *event) {
-  QWidget::hideEvent(event);
+  Page::hideEvent(event);
   // Left for another tab; a dialog that closes prints or changes nothing.
   if (!event->spontaneous() && window()->isVisible()) panel_.shouldHide();
-}
-
-void PanelPage::embed(QWidget *panelView) {
-  const auto controls = focusChain(panelView);
-  area_->setWidget(panelView);
-  panelView->setAutoFillBackground(false);
-  // Made late, its controls come last; they belong after the tab bar.
-  setFocusPolicy(Qt::TabFocus);  // without one, it has no place in the order
-  QWidget *before = this;
-  for (QWidget *control : controls) {
-    setTabOrder(before, control);
-    before = control;
-  }
-  setFocusPolicy(Qt::NoFocus);
 }
 
 QWidget *PanelPage::view() {
@@ -100,6 +63,7 @@ QWidget *PanelPage::view() {
 PanelPages::PanelPages(PlugInModule &module, std::shared_ptr<PpdSession> session, QObject *parent)
     : QObject(parent),
       session_(std::move(session)),
+      notices_(*session_),
       bundle_(module.bundle()),
       plugIn_(module.makePlugIn()) {
   plugIn_->initWithBundle(bundle_.get());
@@ -112,15 +76,16 @@ PanelPages::PanelPages(PlugInModule &module, std::shared_ptr<PpdSession> session
     panelPages_.append(new PanelPage(*panel));
   }
   summaryPage_ = new SummaryPage(*panels);
+  for (Page *page : pages()) connect(&notices_, &Notices::changed, page, &Page::setNotice);
 }
 
 PanelPages::~PanelPages() {
-  for (const QWidget *page : pages()) delete page;
+  qDeleteAll(pages());
   session_->setPanels(nullptr);
 }
 
-QList<QWidget *> PanelPages::pages() const {
-  QList<QWidget *> pages;
+QList<Page *> PanelPages::pages() const {
+  QList<Page *> pages;
   for (const auto &page : panelPages_)
     if (page) pages.append(page);
   if (summaryPage_) pages.append(summaryPage_);

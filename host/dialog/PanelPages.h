@@ -4,26 +4,23 @@
 #include <QList>
 #include <QObject>
 #include <QPointer>
-#include <QWidget>
 #include <memory>
 
 #include "host/PpdSession.h"
+#include "host/dialog/Notices.h"
+#include "host/dialog/Page.h"
 #include "platform/PlugIn.h"
-
-class QScrollArea;
 
 namespace kwopde::host {
 
 /// One panel. The panel hears that it is shown and left when its page is; its view is made when the
 /// page is first seen.
-class PanelPage final : public QWidget {
+class PanelPage final : public Page {
   Q_OBJECT
 
 public:
   /// `panel` is borrowed.
   explicit PanelPage(Panel &panel);
-
-  QSize sizeHint() const override;
 
   /// Shows the panel's own help, when the panel lets the dialog do so.
   void showHelp();
@@ -37,10 +34,8 @@ protected:
 
 private:
   QWidget *view();
-  void embed(QWidget *panelView);
 
   Panel &panel_;
-  QScrollArea *area_;
   bool seen_ = false;
 };
 
@@ -57,17 +52,18 @@ public:
   /// The pages in order, the summary last; none when the PPD has no option of any panel. A page's
   /// tab is titled with its windowTitle; its objectName is the same in every language. They belong
   /// to the dialog that takes them.
-  QList<QWidget *> pages() const;
+  QList<Page *> pages() const;
 
   /// Settles what every panel shows; the session's marks are then those of the job.
   void print();
 
 private:
   std::shared_ptr<PpdSession> session_;
+  Notices notices_;
   std::shared_ptr<Bundle> bundle_;
   std::unique_ptr<PlugIn> plugIn_;
   QList<QPointer<PanelPage>> panelPages_;
-  QPointer<QWidget> summaryPage_;
+  QPointer<Page> summaryPage_;
 };
 
 }  // namespace kwopde::host

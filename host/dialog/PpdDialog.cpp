@@ -1,15 +1,11 @@
 #include "host/dialog/PpdDialog.h"
 
-#include <QCoreApplication>
 #include <QDialogButtonBox>
-#include <QDir>
 #include <QFormLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QTabWidget>
 #include <QVBoxLayout>
-
-#include "host/Error.h"
 
 namespace kwopde::host {
 
@@ -41,7 +37,7 @@ PpdDialog::PpdDialog(PlugInModule &module, const std::shared_ptr<PpdSession> &se
   } else {
     tabs_ = new QTabWidget;
     tabs_->setObjectName("tabs");
-    for (QWidget *page : pages) tabs_->addTab(page, page->windowTitle());
+    for (Page *page : pages) tabs_->addTab(page, page->windowTitle());
     layout->addWidget(tabs_, 1);
   }
 
@@ -55,21 +51,6 @@ PpdDialog::PpdDialog(PlugInModule &module, const std::shared_ptr<PpdSession> &se
   layout->addWidget(buttons);
   print->setDefault(true);
   if (tabs_) tabs_->setFocus();
-}
-
-QStringList PpdDialog::takePictures(const QString &folder) {
-  QStringList files;
-  QDir().mkpath(folder);
-  const int count = tabs_ ? tabs_->count() : 1;
-  for (int i = 0; i < count; ++i) {
-    if (tabs_) tabs_->setCurrentIndex(i);
-    QCoreApplication::processEvents();
-    const QString name = tabs_ ? tabs_->currentWidget()->objectName() : QString("dialog");
-    files.append(QDir(folder).filePath(name + ".png"));
-    if (!grab().save(files.back()))
-      throw Error(files.back().toStdString() + ": the picture cannot be written");
-  }
-  return files;
 }
 
 void PpdDialog::accept() {

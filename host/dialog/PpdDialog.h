@@ -22,10 +22,6 @@ public:
   PpdDialog(PlugInModule &module, const std::shared_ptr<PpdSession> &session,
             const QString &document, QWidget *parent = nullptr);
 
-  /// Opens each tab in turn and saves a picture of the dialog in `folder`, which is made when it is
-  /// missing. The files' names; throws `Error` when one cannot be written.
-  QStringList takePictures(const QString &folder);
-
   void accept() override;
 
 private:

@@ -27,17 +27,14 @@ QLabel *heading(const std::string &text) {
 SummaryPage::SummaryPage(const PanelList &panels) : panels_(panels) {
   setWindowTitle(tr("Summary"));
   setObjectName("summary");
-  setFrameShape(QFrame::NoFrame);
-  setWidgetResizable(true);
-  viewport()->setAutoFillBackground(false);
 }
 
 void SummaryPage::showEvent(QShowEvent *event) {
-  QScrollArea::showEvent(event);
-  if (!event->spontaneous()) refresh();
+  Page::showEvent(event);
+  if (!event->spontaneous()) setContent(table());
 }
 
-void SummaryPage::refresh() {
+QWidget *SummaryPage::table() {
   auto *content = new QWidget;
   auto *grid = new QGridLayout(content);
   grid->setHorizontalSpacing(2 * fontMetrics().averageCharWidth());
@@ -56,8 +53,7 @@ void SummaryPage::refresh() {
     }
   }
   grid->setRowStretch(row, 1);
-  setWidget(content);
-  content->setAutoFillBackground(false);
+  return content;
 }
 
 }  // namespace kwopde::host

@@ -1,14 +1,13 @@
 // What the panels are set to, at a glance.
 #pragma once
 
-#include <QScrollArea>
-
+#include "host/dialog/Page.h"
 #include "platform/PlugIn.h"
 
 namespace kwopde::host {
 
 /// Asks the panels anew whenever it is opened.
-class SummaryPage final : public QScrollArea {
+class SummaryPage final : public Page {
   Q_OBJECT
 
 public:
@@ -19,7 +18,7 @@ protected:
   void showEvent(QShowEvent *event) override;
 
 private:
-  void refresh();
+  QWidget *table();
 
   const PanelList &panels_;
 };

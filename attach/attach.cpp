@@ -1,0 +1,26 @@
+#include "attach/kwopde/attach.h"
+
+#include <QPrintDialog>
+#include <QtDebug>
+
+#include "host/Error.h"
+#include "host/dialog/ModuleLoader.h"
+#include "host/dialog/PrintDialogPanels.h"
+#include "host/dialog/Translations.h"
+
+namespace kwopde {
+
+bool attachPanels(QPrintDialog *dialog) {
+  if (!dialog) return false;
+  try {
+    PlugInModule &module = host::loadModule();
+    host::installTranslations();
+    new host::PrintDialogPanels(module, *dialog);  // the dialog's
+    return true;
+  } catch (const host::Error &error) {
+    qWarning("kwopde: %s", error.what());
+    return false;
+  }
+}
+
+}  // namespace kwopde

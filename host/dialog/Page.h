@@ -1,0 +1,32 @@
+// A tab's page: its content, and below it a line for what the host has to say.
+#pragma once
+
+#include <QWidget>
+
+class QLabel;
+class QScrollArea;
+
+namespace kwopde::host {
+
+class Page : public QWidget {
+  Q_OBJECT
+
+public:
+  Page();
+
+  QSize sizeHint() const override;
+
+  /// Shows `text` below the content; empty takes the line away.
+  void setNotice(const QString &text);
+
+protected:
+  /// Shows `content`, which now belongs to the page, in place of what was there. It scrolls where a
+  /// large font does not leave it room.
+  void setContent(QWidget *content);
+
+private:
+  QScrollArea *area_;
+  QLabel *notice_;
+};
+
+}  // namespace kwopde::host
