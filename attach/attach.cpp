@@ -15,7 +15,8 @@ bool attachPanels(QPrintDialog *dialog) {
   try {
     PlugInModule &module = host::loadModule();
     host::installTranslations();
-    new host::PrintDialogPanels(module, *dialog);  // the dialog's
+    auto *panels = new host::PrintDialogPanels(module, *dialog);  // the dialog's
+    QObject::connect(dialog, &QDialog::accepted, panels, &host::PrintDialogPanels::settle);
     return true;
   } catch (const host::Error &error) {
     qWarning("kwopde: %s", error.what());

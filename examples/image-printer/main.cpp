@@ -25,7 +25,6 @@ int main(int argc, char **argv) {
   if (arguments.size() > 2) {
     dialog.show();
     if (auto *tabs = dialog.findChild<QTabWidget *>()) {
-      tabs->setVisible(true);
       for (int i = 0; i < tabs->count(); ++i) QTextStream(stdout) << tabs->tabText(i) << '\n';
     }
     dialog.grab().save(arguments[2]);

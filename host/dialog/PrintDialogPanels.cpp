@@ -24,7 +24,6 @@ void setCupsOption(QStringList &options, const QString &key, const QString &valu
 
 PrintDialogPanels::PrintDialogPanels(PlugInModule &module, QPrintDialog &dialog)
     : QObject(&dialog), module_(module), dialog_(dialog) {
-  connect(&dialog, &QDialog::accepted, this, &PrintDialogPanels::settle);
   // The dialog tells nobody which printer is chosen, but its combo box does.
   if (auto *printers = dialog.findChild<QComboBox *>("printers"))
     connect(printers, &QComboBox::currentTextChanged, this, &PrintDialogPanels::showPanelsOf);

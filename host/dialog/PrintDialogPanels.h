@@ -12,8 +12,7 @@
 namespace kwopde::host {
 
 /// While it lives, `dialog` shows the panels of the printer that is chosen in it, and none for a
-/// printer that is not ours. When the dialog is accepted, the choices that differ from the
-/// printer's defaults travel with its QPrinter as CUPS options.
+/// printer that is not ours.
 class PrintDialogPanels final : public QObject {
   Q_OBJECT
 
@@ -21,8 +20,8 @@ public:
   /// `module` makes the panels. The dialog owns this object.
   PrintDialogPanels(PlugInModule &module, QPrintDialog &dialog);
 
-  /// Settles what the panels show and hands the choices to the QPrinter; accepting the dialog does
-  /// so too.
+  /// Settles what the panels show and hands the choices that differ from the printer's defaults to
+  /// the QPrinter, as CUPS options. To be called when the dialog is accepted.
   void settle();
 
   /// The choices that the job has to carry, as settled last.

@@ -8,6 +8,7 @@
 #include <QPrinter>
 #include <QProgressDialog>
 #include <QPushButton>
+#include <QTabWidget>
 
 #include "host/Error.h"
 
@@ -20,15 +21,21 @@ constexpr int kPatience = 500;
 
 }  // namespace
 
+void expandOptions(QPrintDialog &dialog) {
+  const auto *tabs = dialog.findChild<QTabWidget *>();
+  if (!tabs || tabs->isVisibleTo(&dialog)) return;
+  // The button "Options >>" has no name, but it is the only one of its role.
+  for (auto *box : dialog.findChildren<QDialogButtonBox *>())
+    for (QAbstractButton *button : box->buttons())
+      if (box->buttonRole(button) == QDialogButtonBox::ResetRole) button->click();
+}
+
 QueueDialog::QueueDialog(PlugInModule &module, QPrinter &printer, const QStringList &documents)
     : QPrintDialog(&printer),
       panels_(*new PrintDialogPanels(module, *this)),
       documents_(documents) {
   setOption(PrintToFile, false);
-  // The panels are what this dialog is for, so its options are open from the start.
-  for (auto *box : findChildren<QDialogButtonBox *>())
-    for (QAbstractButton *button : box->buttons())
-      if (box->buttonRole(button) == QDialogButtonBox::ResetRole) button->click();
+  expandOptions(*this);  // the panels are what this dialog is for
 }
 
 PrintJob QueueDialog::job() const {
