@@ -79,6 +79,10 @@ void printChoices(const std::vector<host::OptionChoice> &choices) {
   for (const auto &[key, choice] : choices) fmt::print("{}={}\n", key, choice);
 }
 
+void reportSent(const host::PrintJob &job, int id) {
+  fmt::print(stderr, "sent job {}-{}\n", job.queue, id);
+}
+
 int ppdDialog(const DialogOptions &options) {
   auto session = std::make_shared<host::PpdSession>(host::PpdFile::open(options.ppd));
   PlugInModule &module = host::loadModule();
@@ -107,7 +111,7 @@ int queueDialog(const DialogOptions &options) {
   host::QueueDialog dialog(module, printer, documents);
   if (!runDialog(dialog, options.snapshotFolder)) return kNotDone;
   printChoices(dialog.job().options);
-  if (dialog.jobId()) fmt::print(stderr, "sent job {}-{}\n", dialog.job().queue, *dialog.jobId());
+  if (dialog.jobId()) reportSent(dialog.job(), *dialog.jobId());
   return kDone;
 }
 
@@ -147,7 +151,8 @@ int print(const PrintOptions &options) {
     const auto sink = openTrace(options.trace);
     const TraceTo trace(module, sink.get());
     host::QtUserInput user;
-    if (!host::ScriptRunner(module, session, user, std::cout, std::cerr).run(script.stream()))
+    std::ostream transcript(nullptr);  // discarded: print tells of the job only
+    if (!host::ScriptRunner(module, session, user, transcript, std::cerr).run(script.stream()))
       return kNotDone;
   }
 
@@ -163,7 +168,8 @@ int print(const PrintOptions &options) {
     fmt::print(stderr, "kwopde: cancelled; the printer has no job\n");
     return kNotDone;
   }
-  fmt::print("{}-{}\n", queue.name(), *id);
+  printChoices(job.options);
+  reportSent(job, *id);
   return kDone;
 }
 
