@@ -8,7 +8,7 @@ namespace kwopde::app {
 
 /// Exit statuses.
 constexpr int kDone = 0;
-constexpr int kNotDone = 1;   // cancelled, not printed, or a command of a script could not be run
+constexpr int kNotDone = 1;   // cancelled, not printed, a command not run, something found
 constexpr int kBadInput = 2;  // the command line, or a file, cannot be used
 
 struct DialogOptions {
@@ -35,10 +35,16 @@ struct RunOptions {
   std::string trace;         // empty: into the transcript
 };
 
+struct CheckOptions {
+  std::vector<std::string> ppds;
+  bool json = false;
+};
+
 /// All of them need a QApplication. The exit status; they throw `host::Error`, and `host::JobError`
 /// when the server or the printer is in the way.
 int dialog(const DialogOptions &options);
 int print(const PrintOptions &options);
 int run(const RunOptions &options);
+int check(const CheckOptions &options);
 
 }  // namespace kwopde::app

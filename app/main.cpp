@@ -80,6 +80,12 @@ int main(int argc, char **argv) {
       ->type_name("SCRIPT")
       ->capture_default_str();
 
+  CheckOptions checkOptions;
+  auto *checkCommand = commandLine.add_subcommand(
+      "check", "Tells what the panels make of PPD files, and what is wrong with them");
+  checkCommand->add_flag("--json", checkOptions.json, "Writes the findings as JSON");
+  checkCommand->add_option("ppds", checkOptions.ppds, "The files")->required()->type_name("PPD");
+
   try {
     commandLine.parse(argc, argv);
   } catch (const CLI::ParseError &error) {
@@ -94,6 +100,7 @@ int main(int argc, char **argv) {
     QApplication::setApplicationVersion(KWOPDE_VERSION);
     kwopde::host::installTranslations();
     if (*dialogCommand) return dialog(dialogOptions);
+    if (*checkCommand) return check(checkOptions);
     return *printCommand ? print(printOptions) : run(runOptions);
   } catch (const kwopde::host::JobError &error) {
     fmt::print(stderr, "kwopde: {}\n", error.what());

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "host/PpdSession.h"
+#include "host/OptionChoice.h"
 
 namespace kwopde::host {
 

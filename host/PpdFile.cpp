@@ -43,13 +43,18 @@ void trimTexts(ppd_file_t &ppd) {
 }  // namespace
 
 PpdFile PpdFile::open(const std::string &path) {
+  PpdFile file = openUntrimmed(path);
+  trimTexts(*file.get());
+  return file;
+}
+
+PpdFile PpdFile::openUntrimmed(const std::string &path) {
   // Opened here, since the library tells neither a folder nor a missing file from a bad one.
   const std::unique_ptr<std::FILE, CloseStream> stream(std::fopen(path.c_str(), "rb"));
   if (!stream || (std::getc(stream.get()) == EOF && std::ferror(stream.get())))
     throw Error(fmt::format("{}: {}", path, std::strerror(errno)));
   if (ppd_file_t *ppd = ppdOpenFile(path.c_str())) {
     ppdLocalize(ppd);
-    trimTexts(*ppd);
     ppdMarkDefaults(ppd);
     return PpdFile(ppd);
   }

@@ -16,6 +16,9 @@ public:
   /// the file, the line and the CUPS library's reason when it cannot be read.
   static PpdFile open(const std::string &path);
 
+  /// The same with the texts as the file has them.
+  static PpdFile openUntrimmed(const std::string &path);
+
   /// Owned by this object.
   ppd_file_t *get() const { return ppd_.get(); }
 

@@ -1,6 +1,8 @@
 #include "host/PpdSession.h"
 
-#include "host/CupsOptions.h"
+#include <cups/cups.h>
+
+#include "host/Constraints.h"
 
 namespace kwopde::host {
 
@@ -29,23 +31,17 @@ Answer PpdSession::answer(const std::string *key, const std::string *requested) 
     return {isNumber ? Reason::outsideLimits : Reason::unlisted, {}, {}};
   }
 
-  // Neither of the library's two calls marks anything.
-  const std::string keyword = wanted->keyword();
-  CupsOptions conflicting;
-  conflicting.count =
-      cupsGetConflicts(ppd_.get(), option->keyword, keyword.c_str(), &conflicting.options);
-  Answer given{Reason::granted, conflicting.others(option->keyword), {}};
-  if (conflicting.count > 0) {
-    CupsOptions resolved;
-    if (!cupsResolveConflicts(ppd_.get(), option->keyword, keyword.c_str(), &resolved.count,
-                              &resolved.options)) {
+  Answer given{Reason::granted, conflictsOf(ppd_.get(), *option, wanted->keyword()), {}};
+  if (!given.conflicts.empty()) {
+    const auto changes = resolve(ppd_.get(), *option, wanted->keyword());
+    if (!changes) {
       given.reason = Reason::conflict;
       return given;
     }
-    for (const OptionChoice &change : resolved.others(option->keyword)) {
-      ppd_option_t *other = ppdFindOption(ppd_.get(), change.key.c_str());
-      const auto choice = other ? findMarkable(ppd_.get(), *other, change.choice) : std::nullopt;
-      if (!choice || markedChoice(change.key) == choice->keyword()) continue;
+    for (const auto &[otherKey, otherChoice] : *changes) {
+      ppd_option_t *other = ppdFindOption(ppd_.get(), otherKey.c_str());
+      const auto choice = other ? findMarkable(ppd_.get(), *other, otherChoice) : std::nullopt;
+      if (!choice || markedChoice(otherKey) == choice->keyword()) continue;
       setMark(*other, *choice);
       given.changes.push_back({other->keyword, choice->keyword()});
     }

@@ -10,17 +10,12 @@
 #include <vector>
 
 #include "host/NumericChoice.h"
+#include "host/OptionChoice.h"
 #include "host/PpdFile.h"
 #include "platform/HostCallback.h"
 #include "platform/PlugIn.h"
 
 namespace kwopde::host {
-
-/// An option's keyword and the keyword of a choice; a custom value is "Custom.NUMBER".
-struct OptionChoice {
-  std::string key;
-  std::string choice;
-};
 
 /// What became of a request, and why.
 struct Answer {

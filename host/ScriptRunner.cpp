@@ -358,9 +358,10 @@ std::string ScriptRunner::showMarked(const std::vector<Word> &words) {
   }
   if (panels_)
     for (const auto &panel : *panels_)
-      for (const std::string &key : panel->optionKeys()) {
-        if (!ppdFindOption(session_->ppdFile(), key.c_str())) continue;
-        fmt::print(out_, "{} = {}\n", key, session_->markedChoice(key).value_or("nil"));
+      for (const PanelOption &option : panel->options()) {
+        if (!ppdFindOption(session_->ppdFile(), option.key.c_str())) continue;
+        fmt::print(out_, "{} = {}\n", option.key,
+                   session_->markedChoice(option.key).value_or("nil"));
       }
   return "void";
 }

@@ -194,11 +194,23 @@ std::shared_ptr<const Dictionary> PanelBase::summaryInfo() {
   return summary;
 }
 
-std::vector<std::string> PanelBase::optionKeys() const {
-  std::vector<std::string> keys;
-  for (const PopUpRow &row : traits_.popUps) keys.emplace_back(row.key);
-  for (const ValueRow &row : traits_.values) keys.emplace_back(row.key);
-  return keys;
+std::vector<PanelOption> PanelBase::options() const {
+  std::vector<PanelOption> options;
+  for (const PopUpRow &row : traits_.popUps)
+    options.push_back({row.key, PanelOption::Kind::choice, {}});
+  for (const ValueRow &row : traits_.values)
+    options.push_back({row.key,
+                       std::holds_alternative<Member<int>>(row.value) ? PanelOption::Kind::integer
+                                                                      : PanelOption::Kind::real,
+                       row.slider.name});
+  return options;
+}
+
+PanelRequirement PanelBase::requirement() const {
+  PanelRequirement needed{traits_.className, {}};
+  for (const PopUpRow &row : traits_.popUps.first(traits_.keyOptions))
+    needed.anyOf.emplace_back(row.key);
+  return needed;
 }
 
 std::vector<PanelControl> PanelBase::controls() const {

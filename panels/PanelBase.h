@@ -110,6 +110,9 @@ public:
 
   ~PanelBase() override;
 
+  /// What the panel's class needs of a PPD.
+  PanelRequirement requirement() const;
+
   std::string_view className() const override { return traits_.className; }
 
   // The contract with the host.
@@ -127,7 +130,7 @@ public:
   std::shared_ptr<const Dictionary> summaryInfo() override;
   void getNonPPDSettingsFromPrintSettings() override {}
   void writeNonPPDSettingsToPrintSettings() override {}
-  std::vector<std::string> optionKeys() const override;
+  std::vector<PanelOption> options() const override;
   std::vector<PanelControl> controls() const override;
 
   // The contract with the interface file.

@@ -72,6 +72,8 @@ class Slider : public View {
 public:
   virtual double doubleValue() const { return 0; }
   virtual void setDoubleValue(double) {}
+  virtual double minValue() const { return 0; }
+  virtual double maxValue() const { return 0; }
 
   /// `doubleValue` cut toward zero.
   int intValue() const;

@@ -34,6 +34,21 @@ struct PanelControl {
   View *control;            // borrowed, valid as long as the panel's view; null while unconnected
 };
 
+/// An option that a panel handles.
+struct PanelOption {
+  enum class Kind { choice, integer, real };
+
+  std::string key;
+  Kind kind;
+  std::string_view slider;  // the outlet of its slider; empty when it has none
+};
+
+/// What a class of panels needs of a PPD.
+struct PanelRequirement {
+  std::string_view className;
+  std::vector<std::string> anyOf;  // keywords; without all of them the panel is refused
+};
+
 class Panel : public Object {
 public:
   /// The panel's view, loaded on the first call and owned by the panel. Null when its interface
@@ -74,9 +89,8 @@ public:
 
   // For tools that drive or inspect a dialog; not traced.
 
-  /// Keywords of every option that the panel handles, whether the PPD has it or not, in the panel's
-  /// order.
-  virtual std::vector<std::string> optionKeys() const = 0;
+  /// Every option that the panel handles, whether the PPD has it or not, in the panel's order.
+  virtual std::vector<PanelOption> options() const = 0;
 
   /// Every control that the panel knows, sorted by outlet.
   virtual std::vector<PanelControl> controls() const = 0;

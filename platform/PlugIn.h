@@ -47,6 +47,10 @@ public:
   /// A new principal object, not yet initialised; owned by the caller.
   virtual std::unique_ptr<PlugIn> makePlugIn() = 0;
 
+  /// What each class of panels needs, in the order of making; at most one of the media panels is
+  /// made. For tools that tell why a panel is missing.
+  virtual std::vector<PanelRequirement> requirements() const = 0;
+
   /// Where the trace goes from now on; borrowed. Null stands for the module's own sink.
   virtual void setLogSink(LogSink *sink) = 0;
 };

@@ -74,4 +74,9 @@ const PanelList *KWOPDEPlugIn::PDEPanelsForType(const std::string *type,
   return PDEs_.get();
 }
 
+std::vector<PanelRequirement> KWOPDEPlugIn::requirements() {
+  return {MediaPDE().requirement(), Media7032PDE().requirement(), ColorPDE().requirement(),
+          SharpenPDE().requirement()};
+}
+
 }  // namespace kwopde

@@ -46,6 +46,9 @@ public:
     return bundle_;
   }
   std::unique_ptr<PlugIn> makePlugIn() override { return std::make_unique<KWOPDEPlugIn>(); }
+  std::vector<PanelRequirement> requirements() const override {
+    return KWOPDEPlugIn::requirements();
+  }
   void setLogSink(LogSink *sink) override { setTraceSink(sink ? sink : &log_); }
 
 private:

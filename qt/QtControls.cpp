@@ -65,6 +65,14 @@ void QtSlider::setDoubleValue(double value) {
       static_cast<int>(std::clamp<double>(steps, widget_->minimum(), widget_->maximum())));
 }
 
+double QtSlider::minValue() const {
+  return widget_ ? widget_->minimum() / stepsPerUnit(*widget_) : 0;
+}
+
+double QtSlider::maxValue() const {
+  return widget_ ? widget_->maximum() / stepsPerUnit(*widget_) : 0;
+}
+
 std::string QtTextField::stringValue() const {
   if (!widget_) return {};
   QString text = widget_->property("text").toString();

@@ -59,6 +59,8 @@ public:
 
   double doubleValue() const override;
   void setDoubleValue(double value) override;
+  double minValue() const override;
+  double maxValue() const override;
 };
 
 /// Whatever shows one line of text in a property "text": a line edit, a label.

@@ -123,6 +123,15 @@ TEST(Constraints, UnresolvableRequestsAreRefusedAndChangeNothing) {
   EXPECT_TRUE(on.request("quality", "Draft"));
 }
 
+TEST(Constraints, ConflictsOfOthersAreNotTheRequests) {
+  SessionOn on(kConstrained +
+               "*UIConstraints: *duplex Off *finish Glossy\n"
+               "*UIConstraints: *finish Glossy *duplex Off\n");
+  EXPECT_TRUE(on.request("quality", "Draft"));
+  EXPECT_EQ(on.marked("finish"), "Glossy");
+  EXPECT_TRUE(on.announced.all.empty());
+}
+
 TEST(CustomValues, NumbersAreListedInAnySpellingOrInsideTheLimits) {
   SessionOn on(option("scale", "Scale", "100", {{"85", "85"}, {"100", "100"}, {"2.2", "2.2"}}) +
                "*Customscale True: \"pop\"\n*ParamCustomscale Scale/Percent: 1 int 10 400\n" +

@@ -1,0 +1,66 @@
+#include <fmt/format.h>
+
+#include <nlohmann/json.hpp>
+
+#include "app/Commands.h"
+#include "host/Error.h"
+#include "host/PpdCheck.h"
+#include "host/dialog/ModuleLoader.h"
+
+namespace kwopde::app {
+
+namespace {
+
+using host::Finding;
+using host::PpdReport;
+
+void printText(const PpdReport &report) {
+  fmt::print(
+      "{}: {}\n", report.file,
+      report.panels.empty() ? "no panels" : fmt::format("{}", fmt::join(report.panels, ", ")));
+  for (const Finding &finding : report.findings) {
+    const std::string where =
+        finding.line > 0 ? fmt::format("{}:{}", report.file, finding.line) : report.file;
+    const std::string about = finding.option.empty() ? "" : finding.option + ": ";
+    fmt::print("{}: {}: {}{}; {}\n", where, host::nameOf(finding.severity), about, finding.message,
+               finding.advice);
+  }
+}
+
+nlohmann::json toJson(const PpdReport &report) {
+  auto findings = nlohmann::json::array();
+  for (const Finding &finding : report.findings)
+    findings.push_back({{"severity", host::nameOf(finding.severity)},
+                        {"option", finding.option},
+                        {"line", finding.line},
+                        {"message", finding.message},
+                        {"advice", finding.advice}});
+  return {{"file", report.file}, {"panels", report.panels}, {"findings", findings}};
+}
+
+}  // namespace
+
+int check(const CheckOptions &options) {
+  PlugInModule &module = host::loadModule();
+  int status = kDone;
+  auto reports = nlohmann::json::array();
+  for (const std::string &ppd : options.ppds) {
+    try {
+      const PpdReport report = host::checkPpd(module, ppd);
+      if (options.json)
+        reports.push_back(toJson(report));
+      else
+        printText(report);
+      if (!report.isClean()) status = std::max(status, kNotDone);
+    } catch (const host::Error &error) {
+      fmt::print(stderr, "kwopde: {}\n", error.what());
+      status = kBadInput;
+    }
+  }
+  // A PPD's texts may be in no valid encoding.
+  if (options.json)
+    fmt::print("{}\n", reports.dump(2, ' ', false, nlohmann::json::error_handler_t::replace));
+  return status;
+}
+
+}  // namespace kwopde::app

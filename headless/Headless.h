@@ -1,0 +1,38 @@
+// A toolkit without a screen: its controls are plain values. For running the extension where no
+// widgets are wanted, in the fuzzers and the benchmarks.
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "host/UserInput.h"
+#include "platform/PlugIn.h"
+
+namespace kwopde::headless {
+
+/// The extension's module on this toolkit. Every panel gets every control that it asks for, so
+/// there are no interface files; its sliders reach from -10 to 10. Texts are their keys.
+class Module final : public PlugInModule {
+public:
+  Module();
+  ~Module() override;
+
+  std::shared_ptr<Bundle> bundle() override { return bundle_; }
+  std::unique_ptr<PlugIn> makePlugIn() override;
+  std::vector<PanelRequirement> requirements() const override;
+  void setLogSink(LogSink *sink) override;
+
+private:
+  std::unique_ptr<InterfaceLoader> loader_;
+  std::shared_ptr<Bundle> bundle_;
+};
+
+/// Works these controls, which send their actions as a toolkit's do.
+class UserInput final : public host::UserInput {
+public:
+  bool pick(PopUpButton &popUp, int index) override;
+  bool slide(Slider &slider, double value) override;
+  bool type(TextField &field, const std::string &text) override;
+};
+
+}  // namespace kwopde::headless

@@ -1,0 +1,49 @@
+#include "host/Constraints.h"
+
+#include <cups/cups.h>
+
+#include <algorithm>
+
+namespace kwopde::host {
+
+namespace {
+
+/// Every conflict that there would be with `choice` of `option` marked.
+std::vector<OptionChoice> allConflicts(ppd_file_t *ppd, const ppd_option_t &option,
+                                       const std::string &choice) {
+  CupsOptions conflicts;
+  conflicts.count = cupsGetConflicts(ppd, option.keyword, choice.c_str(), &conflicts.options);
+  return conflicts.others(option.keyword);
+}
+
+}  // namespace
+
+std::vector<OptionChoice> conflictsOf(ppd_file_t *ppd, const ppd_option_t &option,
+                                      const std::string &choice) {
+  auto conflicts = allConflicts(ppd, option, choice);
+  // The library tells all of them. One that another choice of the option ends is with the option;
+  // one that no choice ends is among the others.
+  std::vector<OptionChoice> own;
+  for (int i = 0; !conflicts.empty() && i < option.num_choices; ++i) {
+    const auto others = allConflicts(ppd, option, option.choices[i].choice);
+    const auto ended = std::stable_partition(
+        conflicts.begin(), conflicts.end(), [&](const OptionChoice &conflict) {
+          return std::any_of(others.begin(), others.end(),
+                             [&](const OptionChoice &other) { return other.key == conflict.key; });
+        });
+    own.insert(own.end(), ended, conflicts.end());
+    conflicts.erase(ended, conflicts.end());
+  }
+  return own;
+}
+
+std::optional<std::vector<OptionChoice>> resolve(ppd_file_t *ppd, const ppd_option_t &option,
+                                                 const std::string &choice) {
+  CupsOptions resolved;
+  if (!cupsResolveConflicts(ppd, option.keyword, choice.c_str(), &resolved.count,
+                            &resolved.options))
+    return {};
+  return resolved.others(option.keyword);
+}
+
+}  // namespace kwopde::host
