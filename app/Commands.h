@@ -1,6 +1,7 @@
 // The commands of `kwopde`.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -40,11 +41,22 @@ struct CheckOptions {
   bool json = false;
 };
 
+struct ValidateOptions {
+  std::string plugin;  // a module's file; empty: our own
+  std::uint64_t seed = 1;
+  int sessions = 1000;
+  std::string only;  // the name of one check; empty: all of them
+  bool list = false;
+  bool json = false;
+  std::string child;  // what to run in this very process; for the command itself
+};
+
 /// All of them need a QApplication. The exit status; they throw `host::Error`, and `host::JobError`
 /// when the server or the printer is in the way.
 int dialog(const DialogOptions &options);
 int print(const PrintOptions &options);
 int run(const RunOptions &options);
 int check(const CheckOptions &options);
+int validate(const ValidateOptions &options);
 
 }  // namespace kwopde::app

@@ -86,6 +86,22 @@ int main(int argc, char **argv) {
   checkCommand->add_flag("--json", checkOptions.json, "Writes the findings as JSON");
   checkCommand->add_option("ppds", checkOptions.ppds, "The files")->required()->type_name("PPD");
 
+  ValidateOptions validateOptions;
+  auto *validateCommand = commandLine.add_subcommand(
+      "validate", "Checks that a module keeps the contract between host and extension");
+  validateCommand->add_option("--plugin", validateOptions.plugin, "The module; else our own")
+      ->type_name("FILE");
+  validateCommand
+      ->add_option("--seed", validateOptions.seed, "The first of the random sessions' seeds")
+      ->capture_default_str();
+  validateCommand->add_option("--sessions", validateOptions.sessions, "How many random sessions")
+      ->check(CLI::NonNegativeNumber)
+      ->capture_default_str();
+  validateCommand->add_option("--only", validateOptions.only, "Runs one check")->type_name("NAME");
+  validateCommand->add_flag("--list", validateOptions.list, "Names the checks");
+  validateCommand->add_flag("--json", validateOptions.json, "Writes the results as JSON");
+  validateCommand->add_option("--child", validateOptions.child)->group("");
+
   try {
     commandLine.parse(argc, argv);
   } catch (const CLI::ParseError &error) {
@@ -100,6 +116,7 @@ int main(int argc, char **argv) {
     QApplication::setApplicationVersion(KWOPDE_VERSION);
     kwopde::host::installTranslations();
     if (*dialogCommand) return dialog(dialogOptions);
+    if (*validateCommand) return validate(validateOptions);
     if (*checkCommand) return check(checkOptions);
     return *printCommand ? print(printOptions) : run(runOptions);
   } catch (const kwopde::host::JobError &error) {

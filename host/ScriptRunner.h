@@ -26,6 +26,9 @@ public:
   /// Runs every command of `script`. False when one of them could not be run.
   bool run(std::istream &script);
 
+  /// The panels that the plug-in made last; null when there are none.
+  const PanelList *panels() const { return panels_; }
+
   void requestWasAnswered(const std::string *key, const std::string *choice,
                           const Answer &answer) override;
   void willAnnounce(const OptionChoice &change) override;
