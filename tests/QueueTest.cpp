@@ -28,7 +28,6 @@ namespace kwopde::test {
 namespace {
 
 using host::CupsConnection;
-using host::PrintJob;
 using host::PrintQueue;
 using testing::HasSubstr;
 
@@ -38,7 +37,7 @@ std::string folder() {
 
 /// A document of `size` bytes that no filter can convert unless it begins with `start`.
 std::string document(const std::string &name, const std::string &start, std::size_t size = 0) {
-  const std::string path = testing::TempDir() + name;
+  std::string path = testing::TempDir() + name;
   std::ofstream file(path);
   file << start << std::string(size, 'x');
   return path;

@@ -18,7 +18,7 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 
 std::string written(const std::string &name, const std::string &text) {
-  const std::string path = testing::TempDir() + name;
+  std::string path = testing::TempDir() + name;
   std::ofstream(path) << text;
   return path;
 }

@@ -1,0 +1,428 @@
+// Measures the extension's share of a print dialog. Every figure is a ratio of two things that are
+// measured in turns in this very run; scripts/bench prints them as a table.
+#include <benchmark/benchmark.h>
+#include <fmt/format.h>
+#include <malloc.h>
+#include <unistd.h>
+
+#include <QApplication>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QTabWidget>
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+#include <map>
+#include <new>
+
+#include "attach/kwopde/attach.h"
+#include "choice/Utility.h"
+#include "headless/Headless.h"
+#include "host/dialog/QueueDialog.h"
+#include "panels/MediaPDE.h"
+#include "plugin/KWOPDEPlugin.h"
+#include "plugin/PDELogging.h"
+
+namespace {
+
+long allocations = 0;
+
+}  // namespace
+
+void *operator new(std::size_t size) {
+  ++allocations;
+  if (void *memory = std::malloc(size)) return memory;
+  throw std::bad_alloc();
+}
+void operator delete(void *memory) noexcept {
+  std::free(memory);
+}
+void operator delete(void *memory, std::size_t) noexcept {
+  std::free(memory);
+}
+
+namespace kwopde::bench {
+
+namespace {
+
+const std::string kSample = KWOPDE_SOURCE_FOLDER "/resources/ppd/kwo-7032.ppd";
+
+class NullSink final : public LogSink {
+public:
+  void writeLine(std::string_view line) override { benchmark::DoNotOptimize(line.data()); }
+};
+
+class LineSink final : public LogSink {
+public:
+  void writeLine(std::string_view line) override { lines.emplace_back(line); }
+  std::vector<std::string> lines;
+};
+
+struct ClosePpd {
+  void operator()(ppd_file_t *ppd) const { ppdClose(ppd); }
+};
+using Ppd = std::unique_ptr<ppd_file_t, ClosePpd>;
+
+Ppd openPpd(const std::string &path) {
+  Ppd ppd(ppdOpenFile(path.c_str()));
+  ppdMarkDefaults(ppd.get());
+  return ppd;
+}
+
+/// A PPD whose print quality has `count` choices.
+Ppd ppdWithChoices(int count) {
+  std::FILE *file = std::tmpfile();
+  fmt::print(file,
+             "*PPD-Adobe: \"4.3\"\n*FormatVersion: \"4.3\"\n*LanguageEncoding: UTF-8\n"
+             "*OpenUI *printQuality/Quality: PickOne\n*DefaultprintQuality: C0\n");
+  for (int i = 0; i < count; ++i)
+    fmt::print(file, "*printQuality C{}/Choice number {}: \"\"\n", i, i);
+  fmt::print(file, "*CloseUI: *printQuality\n");
+  std::rewind(file);
+  Ppd ppd(ppdOpen(file));
+  std::fclose(file);
+  ppdMarkDefaults(ppd.get());
+  return ppd;
+}
+
+/// A host that grants everything, with or without marking it.
+class WillingHost final : public HostCallback {
+public:
+  WillingHost(ppd_file_t *ppd, bool marks) : ppd_(ppd), marks_(marks) {}
+  std::string_view className() const override { return "WillingHost"; }
+  ppd_file_t *ppdFile() override { return ppd_; }
+  bool respondsToSelector(std::string_view) const override { return true; }
+  bool willChangePPDOptionKeyValue(const std::string *key, const std::string *choice) override {
+    if (marks_) ppdMarkOption(ppd_, key->c_str(), choice->c_str());
+    return true;
+  }
+
+private:
+  ppd_file_t *ppd_;
+  bool marks_;
+};
+
+headless::Module &module() {
+  static headless::Module it;
+  return it;
+}
+
+/// Everything that a dialog does with the panels, with 20 picks.
+void wholeSession(const std::shared_ptr<HostCallback> &host) {
+  const auto bundle = module().bundle();
+  const auto plugIn = module().makePlugIn();
+  headless::UserInput user;
+  plugIn->initWithBundle(bundle.get());
+  const std::string type(kPrinterModuleTypeIDStr);
+  const PanelList &panels = *plugIn->PDEPanelsForType(&type, host);
+  for (const auto &panel : panels) panel->restoreValuesAndReturnError(nullptr);
+  int picks = 20;
+  for (const auto &panel : panels) {
+    panel->panelView();
+    panel->willShow();
+  }
+  while (picks > 0)
+    for (const auto &panel : panels)
+      for (const PanelControl &control : panel->controls())
+        if (auto *popUp = dynamic_cast<PopUpButton *>(control.control); popUp && picks > 0)
+          user.pick(*popUp, picks-- % 2);
+  for (const auto &panel : panels) {
+    panel->summaryInfo();
+    panel->shouldHide();
+    panel->saveValuesAndReturnError(nullptr);
+  }
+}
+
+void session(benchmark::State &state) {
+  NullSink sink;
+  setTraceSink(&sink);
+  const Ppd ppd = openPpd(kSample);
+  const auto host = std::make_shared<WillingHost>(ppd.get(), true);
+  for (auto _ : state) wholeSession(host);
+  setTraceSink(nullptr);
+}
+BENCHMARK(session);
+
+void openingThePpd(benchmark::State &state) {
+  for (auto _ : state) benchmark::DoNotOptimize(openPpd(kSample));
+}
+BENCHMARK(openingThePpd);
+
+/// A traced line as the parts that it is made of.
+struct LineParts {
+  int indent;
+  std::string marker;
+  std::string className;
+  std::uint64_t address;
+  std::string message;
+};
+
+LineParts split(const std::string &line) {
+  LineParts parts;
+  parts.indent = static_cast<int>(line.find_first_not_of(' '));
+  const auto self = line.find(" self(<");
+  if (self == line.npos) return {parts.indent, line, "", 0, ""};
+  parts.marker = line.substr(static_cast<std::size_t>(parts.indent),
+                             self - static_cast<std::size_t>(parts.indent));
+  const auto name = self + 7;
+  const auto colon = line.find_first_of(": ", name);
+  parts.className = line.substr(name, colon - name);
+  parts.address = std::strtoull(line.c_str() + line.find("0x", colon), nullptr, 16);
+  parts.message = line.substr(std::min(line.find(">) ", colon) + 3, line.size()));
+  return parts;
+}
+
+void formattingItsLines(benchmark::State &state) {
+  LineSink sink;
+  setTraceSink(&sink);
+  const Ppd ppd = openPpd(kSample);
+  wholeSession(std::make_shared<WillingHost>(ppd.get(), true));
+  setTraceSink(nullptr);
+  std::vector<LineParts> lines;
+  for (const std::string &line : sink.lines) lines.push_back(split(line));
+  std::string text;
+  for (auto _ : state)
+    for (const LineParts &line : lines) {
+      text.clear();
+      fmt::format_to(std::back_inserter(text), "{:{}}{} self(<{}: {:#x}>) {}", "", line.indent,
+                     line.marker, line.className, line.address, line.message);
+      benchmark::DoNotOptimize(text.data());
+    }
+  state.counters["lines"] = static_cast<double>(lines.size());
+}
+BENCHMARK(formattingItsLines);
+
+void pick(benchmark::State &state) {
+  NullSink sink;
+  setTraceSink(&sink);
+  const Ppd ppd = ppdWithChoices(static_cast<int>(state.range(0)));
+  const auto host = std::make_shared<WillingHost>(ppd.get(), false);
+  module();
+  const auto panel = PanelBase::initWithCallback<MediaPDE>(host, nullptr);
+  panel->restoreValuesAndReturnError(nullptr);
+  panel->panelView();
+  panel->willShow();
+  headless::UserInput user;
+  const int last = static_cast<int>(state.range(0)) - 1;
+  for (auto _ : state) user.pick(*panel->printQualityPopUp.get(), last);
+  setTraceSink(nullptr);
+}
+BENCHMARK(pick)->Arg(10)->Arg(10000);
+
+/// The stand-in pop-up of the headless toolkit, filled.
+void createAndFill(benchmark::State &state) {
+  NullSink sink;
+  setTraceSink(&sink);
+  const Ppd ppd = ppdWithChoices(static_cast<int>(state.range(0)));
+  const auto host = std::make_shared<WillingHost>(ppd.get(), false);
+  module();
+  const auto panel = PanelBase::initWithCallback<MediaPDE>(host, nullptr);
+  panel->panelView();
+  for (auto _ : state) {
+    const auto list = ArrayFromPPDOption(panel->printQualityOption);
+    InitPopUpFromArray(*panel->printQualityPopUp.get(), list.get());
+  }
+  state.SetItemsProcessed(state.iterations() * state.range(0));
+  setTraceSink(nullptr);
+}
+BENCHMARK(createAndFill)->Arg(10)->Arg(1000)->Arg(100000);
+
+/// What a choice and its menu item cannot do without: an object, a text, and a reference to it.
+void fillFloor(benchmark::State &state) {
+  std::vector<std::string> titles;
+  for (int i = 0; i < state.range(0); ++i) titles.push_back(fmt::format("Choice number {}", i));
+  for (auto _ : state) {
+    std::vector<std::shared_ptr<std::array<char, sizeof(PDEChoice)>>> list;
+    std::vector<MenuItem> items;
+    list.reserve(titles.size());
+    for (const std::string &title : titles) {
+      list.push_back(std::make_shared<std::array<char, sizeof(PDEChoice)>>());
+      list.back()->front() = title.front();
+    }
+    for (std::size_t i = 0; i < titles.size(); ++i) {
+      std::string kept = titles[i];
+      benchmark::DoNotOptimize(list[i]->front());
+      items.push_back({kept, nullptr});
+    }
+  }
+}
+BENCHMARK(fillFloor)->Arg(10)->Arg(100000);
+
+void tracingALine(benchmark::State &state) {
+  NullSink sink;
+  setTraceSink(&sink);
+  const KWOPDEPlugIn object;
+  const std::string key = "pageScale";
+  PDELog(&object, "saveIntToPPD:(%@, %d)", {key, 85});
+  const long before = allocations;
+  for (auto _ : state) PDELog(&object, "saveIntToPPD:(%@, %d)", {key, 85});
+  state.counters["allocations"] = static_cast<double>(allocations - before);
+  setTraceSink(nullptr);
+}
+BENCHMARK(tracingALine);
+
+void formattingTheLine(benchmark::State &state) {
+  const KWOPDEPlugIn object;
+  const std::string key = "pageScale";
+  std::string text;
+  for (auto _ : state) {
+    text.clear();
+    fmt::format_to(std::back_inserter(text), "{:{}}{} self(<{}: {}>) saveIntToPPD:({}, {})", "", 0,
+                   "LOG", object.className(), fmt::ptr(&object), key, 85);
+    benchmark::DoNotOptimize(text.data());
+  }
+}
+BENCHMARK(formattingTheLine);
+
+/// Opens Qt's print dialog of the private server's default queue, up to its first picture.
+void openDialog(bool withPanels, bool showsThem) {
+  QPrinter printer;
+  QPrintDialog dialog(&printer);
+  if (withPanels) attachPanels(&dialog);
+  dialog.show();
+  if (showsThem) {
+    host::expandOptions(dialog);
+    auto *tabs = dialog.findChild<QTabWidget *>();
+    for (int i = 2; i < 5; ++i) {
+      tabs->setCurrentIndex(i);
+      QApplication::processEvents();
+    }
+  }
+  QApplication::processEvents();
+}
+
+void dialogWithout(benchmark::State &state) {
+  for (auto _ : state) openDialog(false, false);
+}
+BENCHMARK(dialogWithout)->Unit(benchmark::kMillisecond);
+
+void dialogWith(benchmark::State &state) {
+  for (auto _ : state) openDialog(true, false);
+}
+BENCHMARK(dialogWith)->Unit(benchmark::kMillisecond);
+
+void dialogWithAllPanelsShown(benchmark::State &state) {
+  for (auto _ : state) openDialog(true, true);
+}
+BENCHMARK(dialogWithAllPanelsShown)->Unit(benchmark::kMillisecond);
+
+long bytesInUse() {
+  malloc_trim(0);
+  const auto info = mallinfo2();
+  return static_cast<long>(info.uordblks + info.hblkhd);
+}
+
+/// Bytes, which are the same at every run.
+struct Memory {
+  long perChoice;     // with both titles
+  long perDialog;     // while it is open
+  long leftByDialog;  // on average of 1,000
+};
+
+/// To be measured first: later, the list of what is kept has room to spare.
+Memory measureMemory() {
+  Memory memory{};
+  NullSink sink;
+  setTraceSink(&sink);
+  const Ppd many = ppdWithChoices(100000);
+  long before = bytesInUse();
+  const auto list = ArrayFromPPDOption(ppdFindOption(many.get(), "printQuality"));
+  for (const auto &choice : *list) choice->userTitle(), choice->ppdTitle();
+  memory.perChoice = (bytesInUse() - before) / 100000;
+
+  const Ppd ppd = openPpd(kSample);
+  const auto host = std::make_shared<WillingHost>(ppd.get(), true);
+  wholeSession(host);
+  before = bytesInUse();
+  {
+    const auto plugIn = module().makePlugIn();
+    const std::string type(kPrinterModuleTypeIDStr);
+    plugIn->initWithBundle(module().bundle().get());
+    for (const auto &panel : *plugIn->PDEPanelsForType(&type, host)) {
+      panel->panelView();
+      panel->willShow();
+    }
+    memory.perDialog = bytesInUse() - before;
+  }
+  before = bytesInUse();
+  for (int i = 0; i < 1000; ++i) wholeSession(host);
+  memory.leftByDialog = (bytesInUse() - before) / 1000;
+  setTraceSink(nullptr);
+  return memory;
+}
+
+/// Keeps the median time of every benchmark.
+class Medians final : public benchmark::ConsoleReporter {
+public:
+  Medians() : ConsoleReporter(OO_None) {}
+  void ReportRuns(const std::vector<Run> &runs) override {
+    for (const Run &run : runs) {
+      if (run.error_occurred) continue;
+      const std::string name = run.run_name.str();
+      if (run.aggregate_name != "median") continue;
+      times_[name] = run.GetAdjustedRealTime();
+      for (const auto &[counter, value] : run.counters)
+        counters_[name + "." + counter] = static_cast<double>(value);
+    }
+    ConsoleReporter::ReportRuns(runs);
+  }
+  double time(const std::string &name) const { return times_.at(name); }
+  double counter(const std::string &name) const { return counters_.at(name); }
+
+private:
+  std::map<std::string, double> times_;
+  std::map<std::string, double> counters_;
+};
+
+void printTable(const Medians &medians, const Memory &memory) {
+  const struct {
+    const char *what;
+    const char *one;
+    const char *other;
+    double scale;   // of the ratio, for figures per choice
+    double target;  // 0: none
+  } rows[] = {
+      {"a whole session / opening its PPD", "session", "openingThePpd", 1, 0.20},
+      {"a whole session / formatting its lines", "session", "formattingItsLines", 1, 1.5},
+      {"a pick among 10,000 choices / among 10", "pick/10000", "pick/10", 1, 1.2},
+      {"create and fill per choice, 1,000 / 10", "createAndFill/1000", "createAndFill/10", 0.01,
+       1.3},
+      {"create and fill per choice, 100,000 / 10", "createAndFill/100000", "createAndFill/10",
+       0.0001, 1.3},
+      {"the same for bare objects and texts", "fillFloor/100000", "fillFloor/10", 0.0001, 0},
+      {"a trace line / formatting its text", "tracingALine", "formattingTheLine", 1, 2.0},
+      {"Qt's dialog with panels / without", "dialogWith", "dialogWithout", 1, 1.25},
+      {"all panels shown / Qt's dialog without", "dialogWithAllPanelsShown", "dialogWithout", 1, 0},
+  };
+  fmt::print("\n| figure | measured | target | met |\n|---|---|---|---|\n");
+  for (const auto &row : rows) {
+    const double ratio = medians.time(row.one) / medians.time(row.other) * row.scale;
+    if (row.target > 0)
+      fmt::print("| {} | {:.2f} | {:.2f} | {} |\n", row.what, ratio, row.target,
+                 ratio <= row.target ? "yes" : "no");
+    else
+      fmt::print("| {} | {:.2f} | | |\n", row.what, ratio);
+  }
+  fmt::print("| allocations of a trace line | {:.0f} | 0 | {} |\n",
+             medians.counter("tracingALine.allocations"),
+             medians.counter("tracingALine.allocations") == 0 ? "yes" : "no");
+  fmt::print("| lines that a session traces | {:.0f} | | |\n",
+             medians.counter("formattingItsLines.lines"));
+  fmt::print(
+      "| bytes per choice | {} | | |\n| bytes per open dialog | {} | | |\n"
+      "| bytes left by a closed dialog | {} | | |\n",
+      memory.perChoice, memory.perDialog, memory.leftByDialog);
+}
+
+}  // namespace
+
+}  // namespace kwopde::bench
+
+int main(int argc, char **argv) {
+  QApplication application(argc, argv);
+  benchmark::Initialize(&argc, argv);
+  const auto memory = kwopde::bench::measureMemory();
+  kwopde::bench::Medians medians;
+  benchmark::RunSpecifiedBenchmarks(&medians);
+  kwopde::bench::printTable(medians, memory);
+}
