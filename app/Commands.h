@@ -47,6 +47,7 @@ struct ValidateOptions {
   int sessions = 1000;
   std::string only;  // the name of one check; empty: all of them
   bool list = false;
+  bool script = false;  // write the seed's session instead of running it
   bool json = false;
   std::string child;  // what to run in this very process; for the command itself
 };

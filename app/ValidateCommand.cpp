@@ -141,6 +141,10 @@ Result runSessions(const ValidateOptions &options) {
 
 int validate(const ValidateOptions &options) {
   if (!options.child.empty()) return runChild(options);
+  if (options.script) {
+    fmt::print("{}", host::randomScript(options.seed));
+    return kDone;
+  }
   if (options.list) {
     for (const host::Check &check : host::checks())
       fmt::print("{:26} {}\n", check.name, check.promise);

@@ -98,6 +98,8 @@ int main(int argc, char **argv) {
       ->check(CLI::NonNegativeNumber)
       ->capture_default_str();
   validateCommand->add_option("--only", validateOptions.only, "Runs one check")->type_name("NAME");
+  validateCommand->add_flag("--script", validateOptions.script,
+                            "Writes the random session that the seed stands for, to replay it");
   validateCommand->add_flag("--list", validateOptions.list, "Names the checks");
   validateCommand->add_flag("--json", validateOptions.json, "Writes the results as JSON");
   validateCommand->add_option("--child", validateOptions.child)->group("");

@@ -1,0 +1,222 @@
+#include "cocoa/BundleModule.h"
+
+#include <algorithm>
+#include <map>
+#include <set>
+
+#include "cocoa/CocoaControls.h"
+#include "cocoa/KWOPDEPlugIn.h"
+#include "host/Error.h"
+
+using kwopde::cocoa::stringFrom;
+using kwopde::cocoa::textOf;
+
+/// The host's callback object, for a session of ours.
+@interface KWOPDEHost : NSObject {
+@public
+  kwopde::HostCallback *session;  // borrowed
+}
+@end
+
+@implementation KWOPDEHost
+- (ppd_file_t *)ppdFile {
+  return session->ppdFile();
+}
+- (BOOL)willChangePPDOptionKeyValue:(NSString *)key ppdChoice:(NSString *)choice {
+  const std::string keyText = textOf(key);
+  const std::string choiceText = textOf(choice);
+  return session->willChangePPDOptionKeyValue(key ? &keyText : nullptr,
+                                              choice ? &choiceText : nullptr);
+}
+- (BOOL)respondsToSelector:(SEL)selector {
+  if (selector == @selector(willChangePPDOptionKeyValue:ppdChoice:))
+    return session && session->respondsToSelector(textOf(NSStringFromSelector(selector)));
+  return [super respondsToSelector:selector];
+}
+@end
+
+namespace kwopde::cocoa {
+
+namespace {
+
+/// A panel object of the bundle.
+class BundlePanel final : public Panel {
+public:
+  explicit BundlePanel(KWOPDEPanel *panel)
+      : panel_([panel retain]), className_(textOf(NSStringFromClass([panel class]))) {}
+  ~BundlePanel() override { [panel_ release]; }
+
+  std::string_view className() const override { return className_; }
+
+  View *panelView() override {
+    NSView *view = [panel_ panelView];
+    if (!view_ && view) view_ = std::make_unique<CocoaPanelView>(view, nil);
+    return view ? view_.get() : nullptr;
+  }
+  const std::string *panelName() override {
+    NSString *name = [panel_ panelName];
+    if (!name) return nullptr;
+    name_ = textOf(name);
+    return &name_;
+  }
+  std::string_view panelKind() override { return kind_ = textOf([panel_ panelKind]); }
+  const std::vector<std::string> &supportedPPDOptionKeys() override {
+    keys_.clear();
+    forEach<NSString>([[panel_ supportedPPDOptionKeys] objectEnumerator],
+                      [&](NSString *key) { keys_.push_back(textOf(key)); });
+    return keys_;
+  }
+  void willShow() override { [panel_ willShow]; }
+  bool shouldHide() override { return [panel_ shouldHide]; }
+  bool shouldPrint() override { return [panel_ shouldPrint]; }
+  bool shouldShowHelp() override { return [panel_ shouldShowHelp]; }
+  void PPDOptionKeyValueDidChange(const std::string *key, const std::string *ppdChoice) override {
+    [panel_ PPDOptionKeyValueDidChange:stringFrom(key) ppdChoice:stringFrom(ppdChoice)];
+  }
+  bool restoreValuesAndReturnError(Error **error) override {
+    return [panel_ restoreValuesAndReturnError:reinterpret_cast<NSError **>(error)];
+  }
+  bool saveValuesAndReturnError(Error **error) override {
+    return [panel_ saveValuesAndReturnError:reinterpret_cast<NSError **>(error)];
+  }
+  std::shared_ptr<const Dictionary> summaryInfo() override {
+    NSDictionary *info = [panel_ summaryInfo];
+    const auto summary = std::make_shared<Dictionary>([info count]);
+    forEach<NSString>([info keyEnumerator], [&](NSString *key) {
+      summary->setObject(textOf([info objectForKey:key]), textOf(key));
+    });
+    return summary;
+  }
+  void getNonPPDSettingsFromPrintSettings() override {
+    [panel_ getNonPPDSettingsFromPrintSettings];
+  }
+  void writeNonPPDSettingsToPrintSettings() override {
+    [panel_ writeNonPPDSettingsToPrintSettings];
+  }
+  std::vector<PanelOption> options() const override {
+    std::vector<PanelOption> options;
+    forEach<NSString>([[panel_ optionKeys] objectEnumerator], [&](NSString *key) {
+      options.push_back({textOf(key), PanelOption::Kind::choice, {}});
+    });
+    return options;
+  }
+  std::vector<PanelControl> controls() const override {
+    std::vector<PanelControl> list;
+    NSDictionary *views = [panel_ controls];
+    forEach<NSString>([views keyEnumerator], [&](NSString *outlet) {
+      const auto name = outlets_.insert(textOf(outlet)).first;
+      NSView *view = [views objectForKey:outlet];
+      auto &control = controls_[*name];
+      if (!control && (id)view != [NSNull null]) control = makeControl(view);
+      list.push_back({*name, control.get()});
+    });
+    std::sort(list.begin(), list.end(), [](const PanelControl &a, const PanelControl &b) {
+      return a.outlet < b.outlet;
+    });
+    return list;
+  }
+
+private:
+  KWOPDEPanel *panel_;
+  std::string className_;
+  std::unique_ptr<CocoaPanelView> view_;
+  std::string name_;
+  std::string kind_;
+  std::vector<std::string> keys_;
+  mutable std::set<std::string> outlets_;
+  mutable std::map<std::string, std::shared_ptr<View>> controls_;
+};
+
+class NativeBundle final : public Bundle {
+public:
+  explicit NativeBundle(NSBundle *bundle) : native(bundle) {}
+  std::string_view className() const override { return "NSBundle"; }
+  std::optional<std::string> localizedStringForKey(const std::string &, const std::string *,
+                                                   const std::string *) const override {
+    return {};  // the bundle's own classes ask the bundle itself
+  }
+  NSBundle *native;
+};
+
+class BundlePlugIn final : public PlugIn {
+public:
+  explicit BundlePlugIn(Class principal) : plugIn_([[principal alloc] init]) {}
+  ~BundlePlugIn() override {
+    panels_.clear();
+    [plugIn_ release];
+    [host_ release];
+  }
+
+  std::string_view className() const override { return "KWOPDEPlugIn"; }
+  bool initWithBundle(Bundle *bundle) override {
+    auto *native = dynamic_cast<NativeBundle *>(bundle);
+    return [plugIn_ initWithBundle:native ? native->native : nil];
+  }
+  const PanelList *PDEPanelsForType(const std::string *type,
+                                    const std::shared_ptr<HostCallback> &withHostInfo) override {
+    if (!host_ && withHostInfo) {
+      host_ = [[KWOPDEHost alloc] init];
+      host_->session = withHostInfo.get();
+      session_ = withHostInfo;
+    }
+    NSArray *panels = [plugIn_ PDEPanelsForType:stringFrom(type)
+                                   withHostInfo:withHostInfo ? host_ : nil];
+    panels_.clear();
+    forEach<KWOPDEPanel>([panels objectEnumerator], [&](KWOPDEPanel *panel) {
+      panels_.push_back(std::make_shared<BundlePanel>(panel));
+    });
+    return panels ? &panels_ : nullptr;
+  }
+
+private:
+  KWOPDEPlugIn *plugIn_;
+  KWOPDEHost *host_ = nil;
+  std::shared_ptr<HostCallback> session_;
+  PanelList panels_;
+};
+
+template <class NativeView>
+NativeView *viewOf(const View &view, Class kind) {
+  auto *native = static_cast<NSView *>(view.nativeView());
+  return [native isKindOfClass:kind] ? static_cast<NativeView *>(native) : nil;
+}
+
+}  // namespace
+
+BundleModule::BundleModule(const std::string &path) {
+  NSString *absolute = [[NSURL fileURLWithPath:stringFrom(&path)] path];
+  native_ = [NSBundle bundleWithPath:absolute];
+  if (![[native_ principalClass] instancesRespondToSelector:@selector(PDEPanelsForType:
+                                                                          withHostInfo:)])
+    throw host::Error(path + ": not a print-dialog extension");
+  bundle_ = std::make_shared<NativeBundle>(native_);
+}
+
+std::unique_ptr<PlugIn> BundleModule::makePlugIn() {
+  return std::make_unique<BundlePlugIn>([native_ principalClass]);
+}
+
+void BundleModule::setLogSink(LogSink *sink) {
+  [(id)[native_ principalClass] setTraceSink:sink];
+}
+
+bool CocoaUserInput::pick(PopUpButton &popUp, int index) {
+  auto *button = viewOf<NSPopUpButton>(popUp, [NSPopUpButton class]);
+  [button selectItemAtIndex:index];
+  return button && [button sendAction:[button action] to:[button target]];
+}
+
+bool CocoaUserInput::slide(Slider &slider, double value) {
+  auto *native = viewOf<NSSlider>(slider, [NSSlider class]);
+  slider.setDoubleValue(value);
+  return native && [native sendAction:[native action] to:[native target]];
+}
+
+bool CocoaUserInput::type(TextField &field, const std::string &text) {
+  auto *native = viewOf<NSTextField>(field, [NSTextField class]);
+  if (![native isEditable]) return false;
+  [native setStringValue:stringFrom(&text)];
+  return true;
+}
+
+}  // namespace kwopde::cocoa

@@ -1,0 +1,106 @@
+#include "cocoa/CocoaControls.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace kwopde::cocoa {
+
+NSString *stringFrom(std::string_view text) {
+  return [[[NSString alloc] initWithBytes:text.data()
+                                   length:text.size()
+                                 encoding:NSUTF8StringEncoding] autorelease];
+}
+
+NSString *stringFrom(const std::string *text) {
+  return text ? stringFrom(std::string_view(*text)) : nil;
+}
+
+std::string textOf(NSString *string) {
+  const char *text = [string UTF8String];
+  return text ? text : "";
+}
+
+void CocoaPopUpButton::removeAllItems() {
+  items_.clear();
+  [view_ removeAllItems];
+}
+
+void CocoaPopUpButton::selectItemAtIndex(int index) {
+  if (index >= 0 && index < [view_ numberOfItems]) [view_ selectItemAtIndex:index];
+}
+
+int CocoaPopUpButton::indexOfSelectedItem() const {
+  return static_cast<int>([view_ indexOfSelectedItem]);
+}
+
+void CocoaPopUpButton::addItem(MenuItem item) {
+  NSString *title = item.title ? stringFrom(*item.title) : nil;
+  // Through the menu: the button itself drops an earlier item of the same title.
+  NSMenuItem *added = [[[NSMenuItem alloc] initWithTitle:title ? title : @""
+                                                  action:NULL
+                                           keyEquivalent:@""] autorelease];
+  [[view_ menu] addItem:added];
+  items_.push_back(std::move(item));
+  if ([view_ indexOfSelectedItem] < 0) [view_ selectItemAtIndex:0];
+}
+
+const MenuItem *CocoaPopUpButton::itemAtIndex(int index) const {
+  const auto count = static_cast<std::size_t>([view_ numberOfItems]);
+  const auto i = static_cast<std::size_t>(index);
+  if (index < 0 || i >= count) return nullptr;
+  // Items that somebody else has added have a title only.
+  for (auto next = items_.size(); next < count; ++next)
+    items_.push_back({textOf([view_ itemTitleAtIndex:static_cast<NSInteger>(next)]), nullptr});
+  return &items_[i];
+}
+
+double CocoaSlider::doubleValue() const {
+  const auto stepsPerUnit = static_cast<double>([view_ tag]);
+  if (stepsPerUnit <= 0) return [view_ doubleValue];
+  return std::round([view_ doubleValue] * stepsPerUnit) / stepsPerUnit;
+}
+
+void CocoaSlider::setDoubleValue(double value) {
+  if (!std::isnan(value)) [view_ setDoubleValue:std::clamp(value, minValue(), maxValue())];
+}
+
+void CocoaTextField::setStringValue(std::string_view text) {
+  NSString *string = stringFrom(text);
+  [view_ setStringValue:string ? string : @""];
+}
+
+CocoaPanelView::CocoaPanelView(NSView *view, NSObject *owner)
+    : CocoaControl([view retain]), owner_([owner retain]) {}
+
+CocoaPanelView::~CocoaPanelView() {
+  controls_.clear();
+  [view_ removeFromSuperview];
+  [view_ release];
+  [owner_ release];
+}
+
+TextField *CocoaPanelView::viewWithTag(int tag) {
+  return dynamic_cast<TextField *>(control([view_ viewWithTag:tag]).get());
+}
+
+std::shared_ptr<View> CocoaPanelView::control(NSView *view) {
+  const auto known = std::find_if(controls_.begin(), controls_.end(), [&](const auto &control) {
+    return control->nativeView() == view;
+  });
+  if (known != controls_.end()) return *known;
+  auto control = makeControl(view);
+  if (control) controls_.push_back(control);
+  return control;
+}
+
+std::shared_ptr<View> makeControl(NSView *view) {
+  if ([view isKindOfClass:[NSPopUpButton class]])
+    return std::make_shared<CocoaPopUpButton>((NSPopUpButton *)view);
+  if ([view isKindOfClass:[NSSlider class]])
+    return std::make_shared<CocoaSlider>((NSSlider *)view);
+  if ([view isKindOfClass:[NSTextField class]])
+    return std::make_shared<CocoaTextField>((NSTextField *)view);
+  return nullptr;
+}
+
+}  // namespace kwopde::cocoa
