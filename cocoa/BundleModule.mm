@@ -110,9 +110,8 @@ public:
       if (!control && (id)view != [NSNull null]) control = makeControl(view);
       list.push_back({*name, control.get()});
     });
-    std::sort(list.begin(), list.end(), [](const PanelControl &a, const PanelControl &b) {
-      return a.outlet < b.outlet;
-    });
+    std::sort(list.begin(), list.end(),
+              [](const PanelControl &a, const PanelControl &b) { return a.outlet < b.outlet; });
     return list;
   }
 

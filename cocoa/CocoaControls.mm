@@ -96,8 +96,7 @@ std::shared_ptr<View> CocoaPanelView::control(NSView *view) {
 std::shared_ptr<View> makeControl(NSView *view) {
   if ([view isKindOfClass:[NSPopUpButton class]])
     return std::make_shared<CocoaPopUpButton>((NSPopUpButton *)view);
-  if ([view isKindOfClass:[NSSlider class]])
-    return std::make_shared<CocoaSlider>((NSSlider *)view);
+  if ([view isKindOfClass:[NSSlider class]]) return std::make_shared<CocoaSlider>((NSSlider *)view);
   if ([view isKindOfClass:[NSTextField class]])
     return std::make_shared<CocoaTextField>((NSTextField *)view);
   return nullptr;

@@ -149,7 +149,8 @@ struct KWOPDEPanelParts {
 }
 - (NSArray *)supportedPPDOptionKeys {
   NSMutableArray *keys = [NSMutableArray array];
-  for (const std::string &key : parts->panel->supportedPPDOptionKeys()) [keys addObject:stringFrom(key)];
+  for (const std::string &key : parts->panel->supportedPPDOptionKeys())
+    [keys addObject:stringFrom(key)];
   return keys;
 }
 - (void)willShow {
@@ -200,12 +201,12 @@ struct KWOPDEPanelParts {
 }
 @end
 
-#define KWOPDE_PANEL_CLASS(NAME)                                                              \
-  @implementation NAME                                                                        \
-  +(std::shared_ptr<kwopde::Panel>)makeWithCallback : (std::shared_ptr<kwopde::HostCallback>) \
-      host bundle : (kwopde::Bundle *)bundle {                                                \
-    return kwopde::PanelBase::initWithCallback<kwopde::NAME>(host, bundle);                   \
-  }                                                                                           \
+#define KWOPDE_PANEL_CLASS(NAME)                                                        \
+  @implementation NAME                                                                  \
+  +(std::shared_ptr<kwopde::Panel>)makeWithCallback                                     \
+      : (std::shared_ptr<kwopde::HostCallback>)host bundle : (kwopde::Bundle *)bundle { \
+    return kwopde::PanelBase::initWithCallback<kwopde::NAME>(host, bundle);             \
+  }                                                                                     \
   @end
 
 KWOPDE_PANEL_CLASS(MediaPDE)

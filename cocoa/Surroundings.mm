@@ -43,8 +43,7 @@ using kwopde::cocoa::textOf;
 }
 
 - (BOOL)respondsToSelector:(SEL)selector {
-  return [super respondsToSelector:selector] ||
-         [KWOPDEInterfaceOwner outletOf:selector] != nil ||
+  return [super respondsToSelector:selector] || [KWOPDEInterfaceOwner outletOf:selector] != nil ||
          [KWOPDEInterfaceOwner isAction:selector];
 }
 

@@ -14,7 +14,8 @@ namespace {
 
 using namespace kwopde;
 
-/// GNUstep names languages in words and takes them from LANGUAGES; macOS asks the system's settings.
+/// GNUstep names languages in words and takes them from LANGUAGES; macOS asks the system's
+/// settings.
 void chooseLanguage() {
   const char *language = std::getenv("LANGUAGE");
   const bool german = language && std::string_view(language).starts_with("de");
@@ -51,7 +52,8 @@ void takePictures(const PanelList &panels, const std::string &folder) {
 
 int run(const std::string &bundle, const std::string &ppd, bool noConstraintHandling,
         const std::string &script, const std::string &pictures) {
-  auto session = std::make_shared<host::PpdSession>(host::PpdFile::open(ppd), !noConstraintHandling);
+  auto session =
+      std::make_shared<host::PpdSession>(host::PpdFile::open(ppd), !noConstraintHandling);
   cocoa::BundleModule module(bundle);
   cocoa::CocoaUserInput user;
   if (!pictures.empty()) {
@@ -79,8 +81,8 @@ int run(const std::string &bundle, const std::string &ppd, bool noConstraintHand
 int main(int argc, char **argv) {
   CLI::App commandLine("Drives the AppKit bundle of the print-dialog extension", "kwopde-cocoa");
   commandLine.require_subcommand(1);
-  auto *command = commandLine.add_subcommand(
-      "run", "Drives the panels by a script and writes a transcript");
+  auto *command =
+      commandLine.add_subcommand("run", "Drives the panels by a script and writes a transcript");
   std::string ppd;
   std::string bundle = KWOPDE_BUNDLE;
   std::string script = "-";

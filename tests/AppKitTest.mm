@@ -7,10 +7,10 @@
 
 #include "cocoa/KWOPDEPlugIn.h"
 
-#define EXPECT(CONDITION)                                                          \
-  if (!(CONDITION)) {                                                              \
-    std::cerr << __FILE__ << ':' << __LINE__ << ": not so: " #CONDITION << '\n';   \
-    failures++;                                                                    \
+#define EXPECT(CONDITION)                                                        \
+  if (!(CONDITION)) {                                                            \
+    std::cerr << __FILE__ << ':' << __LINE__ << ": not so: " #CONDITION << '\n'; \
+    failures++;                                                                  \
   }
 
 namespace {

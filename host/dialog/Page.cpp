@@ -2,6 +2,7 @@
 
 #include <QLabel>
 #include <QScrollArea>
+#include <QStyle>
 #include <QVBoxLayout>
 
 namespace kwopde::host {
@@ -30,7 +31,10 @@ Page::Page() : area_(new QScrollArea), notice_(new QLabel) {
   notice_->setObjectName("notice");
   notice_->setTextFormat(Qt::PlainText);
   notice_->setWordWrap(true);
-  notice_->setMargin(fontMetrics().height() / 2);
+  // In line with the captions of a panel.
+  notice_->setContentsMargins(style()->pixelMetric(QStyle::PM_LayoutLeftMargin), 0,
+                              style()->pixelMetric(QStyle::PM_LayoutRightMargin),
+                              style()->pixelMetric(QStyle::PM_LayoutBottomMargin));
   notice_->hide();
 }
 
