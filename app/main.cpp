@@ -19,6 +19,15 @@ CLI::Option *addTraceOption(CLI::App &command, std::string &where) {
       ->type_name("FILE|stderr|syslog");
 }
 
+/// Runs without a display, unless a person is to see something.
+void choosePlatform(bool forAPerson) {
+  const auto isSet = [](const char *variable) { return !qEnvironmentVariableIsEmpty(variable); };
+  if (!forAPerson)
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+  else if (!isSet("DISPLAY") && !isSet("WAYLAND_DISPLAY") && !isSet("QT_QPA_PLATFORM"))
+    throw kwopde::host::Error("there is no display: set DISPLAY, or take pictures with --snapshot");
+}
+
 }  // namespace
 
 int main(int argc, char **argv) {
@@ -111,7 +120,7 @@ int main(int argc, char **argv) {
   }
 
   try {
-    if (!*dialogCommand) qputenv("QT_QPA_PLATFORM", "offscreen");
+    choosePlatform(*dialogCommand && dialogOptions.snapshotFolder.empty());
     int qtArgc = 1;
     QApplication application(qtArgc, argv);
     QApplication::setApplicationName("kwopde");
