@@ -161,6 +161,19 @@ TEST_F(Dialog, SummaryIsFreshWheneverItIsOpened) {
   EXPECT_TRUE(texts().contains("33 %"));
 }
 
+TEST_F(Dialog, TellsBelowThePanelWhatTheHostChangedOrRefused) {
+  open("kwo-7032.ppd");
+  const auto notice = [&] { return tabs_->currentWidget()->findChild<QLabel *>("notice")->text(); };
+  QTest::keyClick(&widget<QComboBox>("dustRemovalPopUp"), Qt::Key_End);
+  EXPECT_EQ(notice(), QString());
+  QTest::keyClick(&widget<QComboBox>("printQualityPopUp"), Qt::Key_Home);
+  EXPECT_EQ(notice(), "Changed Dust Removal: Off, to go with Print Quality: Draft.");
+  EXPECT_EQ(widget<QComboBox>("dustRemovalPopUp").currentText(), "Off");
+  widget<QLineEdit>("pageScaleEdit").setText("9");
+  tabs_->setCurrentIndex(1);
+  EXPECT_TRUE(notice().contains("Page Scale cannot be 9: this printer has no such choice."));
+}
+
 TEST_F(Dialog, ShowsThePanelsOfAnyPrinter) {
   open("kwo-basic.ppd");
   EXPECT_FALSE(widget<QComboBox>("printQualityPopUp").isEnabled());
