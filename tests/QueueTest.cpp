@@ -23,6 +23,7 @@
 #include "host/PrintQueue.h"
 #include "host/dialog/ModuleLoader.h"
 #include "host/dialog/QueueDialog.h"
+#include "tests/support/TestPpd.h"
 
 namespace kwopde::test {
 namespace {
@@ -133,6 +134,28 @@ TEST(Queue, SavedOptionsOfTheUserAreMarked) {
   cupsSetDests2(nullptr, 1, dest);
   cupsFreeDests(1, dest);
   EXPECT_EQ(PrintQueue("").name(), "kwo-7032");
+}
+
+TEST(Queue, ResolvedConflictsAndCustomValuesReachTheServer) {
+  const std::string ppd = document(
+      "custom.ppd",
+      ppdText(option("quality", "Quality", "Fine", {{"Fine", "Fine"}, {"Draft", "Draft"}}) +
+              option("dust", "Dust", "Off", {{"Off", "Off"}, {"On", "On"}}) +
+              "*UIConstraints: *quality Draft *dust On\n*UIConstraints: *dust On *quality Draft\n" +
+              option("scale", "Scale", "100", {{"100", "100"}}) +
+              "*Customscale True: \"pop\"\n*ParamCustomscale Scale/Percent: 1 int 10 400\n"));
+  const std::string add = "/usr/sbin/lpadmin -p custom -E -v file:/dev/null -P " + ppd;
+  ASSERT_EQ(std::system((add + " 2>/dev/null").c_str()), 0);
+  const auto session = PrintQueue("custom").openSession();
+  const auto ask = [&](const std::string &key, const std::string &choice) {
+    return session->willChangePPDOptionKeyValue(&key, &choice);
+  };
+  EXPECT_TRUE(ask("dust", "On") && ask("quality", "Draft") && ask("scale", "123"));
+  const auto id = host::send({"custom", "", {document("a.txt", "a")}, session->changedChoices()},
+                             [](auto, auto) { return true; });
+  EXPECT_EQ(attribute(*id, "quality"), "Draft");
+  EXPECT_EQ(attribute(*id, "dust"), "");
+  EXPECT_EQ(attribute(*id, "scale"), "Custom.123");
 }
 
 class QtDialog : public testing::Test {
