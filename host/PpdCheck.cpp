@@ -95,23 +95,18 @@ private:
   }
 
   void checkMissingPanels() {
-    const auto appears = [&](std::string_view name) {
-      return std::find(report_.panels.begin(), report_.panels.end(), name) != report_.panels.end();
-    };
-    std::vector<std::string> known;  // the media panels need the same, so one of them is enough
+    std::string before;  // the media panels need the same, so one note is enough
     for (const PanelRequirement &needed : module_.requirements()) {
       const std::string keys = fmt::format("{}", fmt::join(needed.anyOf, " or "));
-      if (appears(needed.className)) known.push_back(keys);
-      if (std::find(known.begin(), known.end(), keys) != known.end()) continue;
-      const bool madeElsewhere =
+      const bool appears =
           std::any_of(needed.anyOf.begin(), needed.anyOf.end(), [&](const std::string &key) {
             return ppdFindOption(session_->ppdFile(), key.c_str()) != nullptr;
           });
-      known.push_back(keys);
-      if (!madeElsewhere)
+      if (!appears && keys != before)
         find(Severity::note, {}, 0,
              fmt::format("{} does not appear, since the PPD has no {}", needed.className, keys),
              "add the option if the printer has it");
+      before = keys;
     }
   }
 

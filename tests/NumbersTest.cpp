@@ -66,8 +66,8 @@ TEST(Numbers, ShortestTextReadsBackAsTheSame) {
 }
 
 TEST(Numbers, AreTheSameInEveryLocale) {
-  // Without a German locale on the machine this only repeats the above.
-  (void)std::setlocale(LC_ALL, "de_DE.UTF-8");
+  ASSERT_NE(std::setlocale(LC_ALL, "de_DE.UTF-8"), nullptr);
+  ASSERT_STREQ(std::localeconv()->decimal_point, ",");
   EXPECT_EQ(leadingDouble("1.5"), 1.5);
   EXPECT_EQ(shortestText(1.5), "1.5");
   (void)std::setlocale(LC_ALL, "C");
