@@ -1,8 +1,12 @@
 #include <fmt/format.h>
 
+#include <algorithm>
+#include <memory>
 #include <nlohmann/json.hpp>
+#include <string>
+#include <vector>
 
-#include "app/Commands.h"
+#include "app/Command.h"
 #include "host/Error.h"
 #include "host/PpdCheck.h"
 #include "host/dialog/ModuleLoader.h"
@@ -38,7 +42,10 @@ nlohmann::json toJson(const PpdReport &report) {
   return {{"file", report.file}, {"panels", report.panels}, {"findings", findings}};
 }
 
-}  // namespace
+struct CheckOptions {
+  std::vector<std::string> ppds;
+  bool json = false;
+};
 
 int check(const CheckOptions &options) {
   PlugInModule &module = host::loadModule();
@@ -61,6 +68,17 @@ int check(const CheckOptions &options) {
   if (options.json)
     fmt::print("{}\n", reports.dump(2, ' ', false, nlohmann::json::error_handler_t::replace));
   return status;
+}
+
+}  // namespace
+
+Command addCheckCommand(CLI::App &commandLine) {
+  const auto options = std::make_shared<CheckOptions>();
+  CLI::App *command = commandLine.add_subcommand(
+      "check", "Tells what the panels make of PPD files, and what is wrong with them");
+  command->add_flag("--json", options->json, "Writes the findings as JSON");
+  command->add_option("ppds", options->ppds, "The files")->required()->type_name("PPD");
+  return {command, [options] { return check(*options); }};
 }
 
 }  // namespace kwopde::app

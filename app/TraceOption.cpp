@@ -35,6 +35,12 @@ spdlog::sink_ptr sinkFor(const std::string &where) {
 
 }  // namespace
 
+CLI::Option *addTraceOption(CLI::App &command, std::string &where) {
+  return command
+      .add_option("--trace", where, "Where the trace goes: stderr, syslog, or a file to append to")
+      ->type_name("FILE|stderr|syslog");
+}
+
 std::unique_ptr<LogSink> openTrace(const std::string &where) {
   try {
     return std::make_unique<LoggerSink>(sinkFor(where));

@@ -1,6 +1,7 @@
 // Where the trace goes, as chosen on the command line.
 #pragma once
 
+#include <CLI/App.hpp>
 #include <memory>
 #include <string>
 
@@ -8,8 +9,11 @@
 
 namespace kwopde::app {
 
-/// A sink for `where`: "stderr", "syslog", or the name of a file to append to. Throws `Error` when
-/// the file cannot be written.
+/// Adds --trace to `command`; it sets `where`.
+CLI::Option *addTraceOption(CLI::App &command, std::string &where);
+
+/// Returns a sink for `where`: "stderr", "syslog", or the name of a file to append to. Throws
+/// `Error` when the file cannot be written.
 std::unique_ptr<LogSink> openTrace(const std::string &where);
 
 }  // namespace kwopde::app

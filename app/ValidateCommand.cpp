@@ -1,19 +1,25 @@
 #include <fmt/format.h>
 
-#include <QApplication>
+#include <CLI/CLI.hpp>
+#include <QCoreApplication>
 #include <QFile>
+#include <QFileInfo>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <algorithm>
+#include <cstdint>
 #include <fstream>
+#include <memory>
 #include <nlohmann/json.hpp>
+#include <string>
 #include <vector>
 
-#include "app/Commands.h"
+#include "app/Command.h"
+#include "app/Files.h"
 #include "host/Error.h"
 #include "host/dialog/ModuleLoader.h"
-#include "host/dialog/QtUserInput.h"
 #include "host/validator/RandomSession.h"
+#include "qt/QtUserInput.h"
 
 namespace kwopde::app {
 
@@ -22,12 +28,36 @@ namespace {
 /// Sessions that one process runs.
 constexpr int kBatch = 500;
 
+/// The name under which the random sessions stand among the checks.
+constexpr const char *kSessions = "sessions";
+
+struct ValidateOptions {
+  std::string module;  // a file; empty: our own
+  std::string ppd;     // a file; empty: the sample with every option of our panels
+  std::uint64_t seed = 1;
+  int sessions = 1000;
+  std::string only;  // the name of one check; empty: all of them
+  std::string keep;  // a folder for the sessions' scripts; empty: a temporary one
+  bool inProcess = false;
+  bool list = false;
+  bool script = false;  // write the seed's session instead of running it
+  bool json = false;
+};
+
 struct Result {
+  enum class Outcome { pass, fail, none };
+
   std::string name;
   std::string promise;
-  bool passed;
-  std::string what;  // what went wrong
+  Outcome outcome = Outcome::pass;
+  std::string what;  // what went wrong, or why there was nothing to check
+  long calls = 0;    // of the random sessions, those that could be run
 };
+
+NLOHMANN_JSON_SERIALIZE_ENUM(Result::Outcome, {{Result::Outcome::pass, "pass"},
+                                               {Result::Outcome::fail, "fail"},
+                                               {Result::Outcome::none, "nothing checked"}})
+NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE(Result, name, promise, outcome, what, calls)
 
 /// The PPDs to run on, as files.
 class Ppds {
@@ -44,132 +74,225 @@ private:
   QTemporaryDir folder_;
 };
 
-/// Where a session that goes wrong can be replayed from.
-std::string scriptPath(const ValidateOptions &options) {
-  return fmt::format("kwopde-validate-{}.script", options.seed);
+/// The module and the PPDs that the options name, ready to be checked.
+class Bench {
+public:
+  explicit Bench(const ValidateOptions &options)
+      : subject{host::loadModule(QString::fromStdString(options.module)), user_,
+                options.ppd.empty() ? ppds_.path("kwo-7032.ppd") : options.ppd,
+                ppds_.path("no-panels.ppd")} {}
+
+private:
+  Ppds ppds_;
+  qt::QtUserInput user_;
+
+public:
+  const host::Subject subject;
+};
+
+std::string scriptPath(const std::string &folder, std::uint64_t seed) {
+  return fmt::format("{}/kwopde-validate-{}.script", folder, seed);
 }
 
-/// Runs what `options.child` says in this process. The exit status; what is wrong goes to standard
-/// output.
-int runChild(const ValidateOptions &options) {
-  const Ppds ppds;
-  host::QtUserInput user;
-  PlugInModule &module = host::loadModule(QString::fromStdString(options.plugin));
-  const host::Subject subject{module, user, ppds.path("kwo-7032.ppd"), ppds.path("no-panels.ppd")};
+Result judge(std::string name, std::string promise, const std::function<void(Result &)> &run) {
+  Result result{std::move(name), std::move(promise), Result::Outcome::pass, {}, 0};
   try {
-    if (options.child == "sessions") {
-      long commands = 0;
-      for (int i = 0; i < options.sessions; ++i) {
-        // Written anew for each session, so that it is the one that crashed.
-        std::ofstream log(scriptPath(options));
-        commands +=
-            runSession(subject, host::randomScript(options.seed + static_cast<unsigned>(i)), log);
-      }
-      QFile::remove(QString::fromStdString(scriptPath(options)));
-      fmt::print("{}", commands);
-      return kDone;
-    }
-    for (const host::Check &check : host::checks())
-      if (check.name == options.child) check.run(subject);
-    return kDone;
+    run(result);
   } catch (const host::CheckFailed &failure) {
-    fmt::print("{}", failure.what());
-    return kNotDone;
+    result.outcome = Result::Outcome::fail;
+    result.what = failure.what();
+  } catch (const host::NothingToCheck &nothing) {
+    result.outcome = Result::Outcome::none;
+    result.what = nothing.what();
   }
-}
-
-/// Runs one check or batch in a process of its own.
-Result runApart(const ValidateOptions &options, const std::string &child, std::uint64_t seed,
-                int sessions, std::string &output) {
-  QProcess process;
-  QStringList arguments{"validate",
-                        "--child",
-                        QString::fromStdString(child),
-                        "--seed",
-                        QString::number(seed),
-                        "--sessions",
-                        QString::number(sessions)};
-  if (!options.plugin.empty()) arguments << "--plugin" << QString::fromStdString(options.plugin);
-  process.start(QCoreApplication::applicationFilePath(), arguments);
-  process.waitForFinished(-1);
-  output = process.readAllStandardOutput().toStdString();
-  Result result{child, {}, false, output};
-  if (process.exitStatus() == QProcess::CrashExit)
-    result.what = fmt::format("crashed with signal {}", process.exitCode());
-  else if (process.exitCode() == kBadInput)
-    throw host::Error(process.readAllStandardError().trimmed().toStdString());
-  else
-    result.passed = process.exitCode() == kDone;
   return result;
 }
 
-std::vector<Result> runChecks(const ValidateOptions &options) {
+/// Runs the sessions, and leaves the script of the last one in the folder `options.keep`.
+Result runSessions(const ValidateOptions &options, const host::Subject &subject) {
+  return judge(kSessions, "random calls hold every invariant", [&](Result &result) {
+    const host::Vocabulary vocabulary = host::vocabularyOf(subject);
+    for (int i = 0; i < options.sessions; ++i) {
+      const std::uint64_t seed = options.seed + static_cast<unsigned>(i);
+      const std::string path = scriptPath(options.keep, seed);
+      {
+        // Written before it is run, so that it is there after a crash.
+        std::ofstream log(path);
+        result.calls += host::runSession(subject, host::randomScript(vocabulary, seed), log);
+      }
+      QFile::remove(QString::fromStdString(path));
+    }
+  });
+}
+
+/// Runs what is chosen in this process.
+std::vector<Result> runHere(const ValidateOptions &options) {
+  const Bench bench(options);
   std::vector<Result> results;
-  std::string output;
-  for (const host::Check &check : host::checks()) {
-    if (!options.only.empty() && options.only != check.name) continue;
-    Result result = runApart(options, std::string(check.name), options.seed, 0, output);
-    result.promise = check.promise;
-    results.push_back(std::move(result));
+  for (const host::Check &check : host::checks())
+    if (options.only.empty() || options.only == check.name)
+      results.push_back(judge(std::string(check.name), std::string(check.promise),
+                              [&](Result &) { check.run(bench.subject); }));
+  if (options.only.empty() || options.only == kSessions)
+    results.push_back(runSessions(options, bench.subject));
+  return results;
+}
+
+/// Runs one check, or a batch of sessions, in a process of its own.
+Result runApart(const ValidateOptions &options, const std::string &name,
+                const std::string &promise) {
+  QStringList arguments{"validate",
+                        "--in-process",
+                        "--json",
+                        "--only",
+                        QString::fromStdString(name),
+                        "--seed",
+                        QString::number(options.seed),
+                        "--sessions",
+                        QString::number(options.sessions),
+                        "--keep",
+                        QString::fromStdString(options.keep)};
+  if (!options.module.empty()) arguments << "--module" << QString::fromStdString(options.module);
+  if (!options.ppd.empty()) arguments << "--ppd" << QString::fromStdString(options.ppd);
+  QProcess process;
+  process.start(QCoreApplication::applicationFilePath(), arguments);
+  process.waitForFinished(-1);
+  Result result{name, promise, Result::Outcome::fail, {}, 0};
+  if (process.exitStatus() == QProcess::CrashExit) {
+    result.what = fmt::format("crashed with signal {}", process.exitCode());
+    return result;
+  }
+  const auto answer = nlohmann::json::parse(process.readAllStandardOutput().toStdString(), nullptr,
+                                            /*allow_exceptions=*/false);
+  if (answer.is_array() && answer.size() == 1) return answer.front().get<Result>();
+  const std::string errors = process.readAllStandardError().trimmed().toStdString();
+  if (process.exitCode() == kBadInput) throw host::Error(errors.substr(errors.find(": ") + 2));
+  result.what = fmt::format("ended with status {}: {}", process.exitCode(), errors);
+  return result;
+}
+
+/// Runs the sessions in batches, a process each, up to one that goes wrong.
+Result runSessionsApart(const ValidateOptions &options) {
+  ValidateOptions batch = options;
+  Result all{kSessions, {}, Result::Outcome::pass, {}, 0};
+  for (int done = 0; done < options.sessions && all.outcome == Result::Outcome::pass;
+       done += kBatch) {
+    batch.seed = options.seed + static_cast<unsigned>(done);
+    batch.sessions = std::min(kBatch, options.sessions - done);
+    const Result result = runApart(batch, kSessions, {});
+    all.outcome = result.outcome;
+    all.what = result.what;
+    all.calls += result.calls;
+  }
+  all.promise =
+      fmt::format("{} random calls from seed {} hold every invariant", all.calls, options.seed);
+  return all;
+}
+
+/// Runs what is chosen, each in a process of its own, so that a crash costs one result.
+std::vector<Result> runAllApart(ValidateOptions options) {
+  QTemporaryDir folder;
+  if (options.keep.empty()) options.keep = folder.path().toStdString();
+  std::vector<Result> results;
+  for (const host::Check &check : host::checks())
+    if (options.only.empty() || options.only == check.name)
+      results.push_back(runApart(options, std::string(check.name), std::string(check.promise)));
+  if (options.only.empty() || options.only == kSessions) {
+    Result sessions = runSessionsApart(options);
+    const QStringList kept =
+        QDir(QString::fromStdString(options.keep)).entryList({"kwopde-validate-*.script"});
+    if (sessions.outcome == Result::Outcome::fail && !kept.isEmpty()) {
+      folder.setAutoRemove(false);
+      sessions.what += fmt::format(
+          "; replay with: {}kwopde run --ppd {} {}/{}",
+          options.module.empty() ? "" : fmt::format("KWOPDE_MODULE={} ", options.module),
+          options.ppd.empty() ? "kwo-7032.ppd" : options.ppd, options.keep,
+          kept.front().toStdString());
+    }
+    results.push_back(std::move(sessions));
   }
   return results;
 }
 
-Result runSessions(const ValidateOptions &options) {
-  long commands = 0;
-  Result all{"sessions", {}, true, {}};
-  for (int done = 0; done < options.sessions && all.passed; done += kBatch) {
-    ValidateOptions batch = options;
-    batch.seed += static_cast<unsigned>(done);
-    std::string output;
-    const Result result =
-        runApart(batch, "sessions", batch.seed, std::min(kBatch, options.sessions - done), output);
-    if (result.passed) {
-      commands += std::atol(output.c_str());
-      continue;
-    }
-    all.passed = false;
-    all.what = fmt::format("{}; replay with: kwopde run --ppd kwo-7032.ppd {}", result.what,
-                           scriptPath(batch));
+void print(const std::vector<Result> &results, bool json) {
+  if (json) {
+    fmt::print("{}\n", nlohmann::json(results).dump(2));
+    return;
   }
-  all.promise =
-      fmt::format("{} random calls from seed {} hold every invariant", commands, options.seed);
-  return all;
+  for (const Result &result : results) switch (result.outcome) {
+      case Result::Outcome::pass:
+        fmt::print("pass  {:26} {}\n", result.name, result.promise);
+        break;
+      case Result::Outcome::fail:
+        fmt::print("FAIL  {:26} {}\n", result.name, result.what);
+        break;
+      case Result::Outcome::none:
+        fmt::print("none  {:26} nothing of yours was checked: {}\n", result.name, result.what);
+        break;
+    }
+}
+
+void list() {
+  for (const host::Check &check : host::checks())
+    fmt::print("{:26} {}\n", check.name, check.promise);
+  fmt::print("{:26} {}\n", kSessions, "random calls hold every invariant");
+}
+
+int validate(ValidateOptions options) {
+  if (options.list) {
+    list();
+    return kDone;
+  }
+  if (!options.ppd.empty()) openReadable(options.ppd);
+  if (options.script) {
+    try {
+      fmt::print("{}",
+                 host::randomScript(host::vocabularyOf(Bench(options).subject), options.seed));
+    } catch (const host::NothingToCheck &nothing) {
+      throw host::Error(nothing.what());
+    }
+    return kDone;
+  }
+  if (options.inProcess && options.keep.empty()) options.keep = ".";
+  const auto results = options.inProcess ? runHere(options) : runAllApart(options);
+  if (results.empty())
+    throw host::Error(fmt::format("there is no check {}: --list names them", options.only));
+  print(results, options.json);
+  const bool passed = std::all_of(results.begin(), results.end(), [](const Result &result) {
+    return result.outcome == Result::Outcome::pass;
+  });
+  return passed ? kDone : kNotDone;
 }
 
 }  // namespace
 
-int validate(const ValidateOptions &options) {
-  if (!options.child.empty()) return runChild(options);
-  if (options.script) {
-    fmt::print("{}", host::randomScript(options.seed));
-    return kDone;
-  }
-  if (options.list) {
-    for (const host::Check &check : host::checks())
-      fmt::print("{:26} {}\n", check.name, check.promise);
-    fmt::print("{:26} {}\n", "sessions", "random calls hold every invariant");
-    return kDone;
-  }
-  auto results = runChecks(options);
-  if (options.only.empty() || options.only == "sessions") results.push_back(runSessions(options));
-  if (results.empty()) throw host::Error(fmt::format("there is no check {}", options.only));
-  auto json = nlohmann::json::array();
-  for (const Result &result : results) {
-    if (options.json)
-      json.push_back({{"name", result.name},
-                      {"promise", result.promise},
-                      {"passed", result.passed},
-                      {"what", result.passed ? "" : result.what}});
-    else if (result.passed)
-      fmt::print("pass  {:26} {}\n", result.name, result.promise);
-    else
-      fmt::print("FAIL  {:26} {}\n", result.name, result.what);
-  }
-  if (options.json) fmt::print("{}\n", json.dump(2));
-  const bool passed =
-      std::all_of(results.begin(), results.end(), [](const Result &r) { return r.passed; });
-  return passed ? kDone : kNotDone;
+Command addValidateCommand(CLI::App &commandLine) {
+  const auto options = std::make_shared<ValidateOptions>();
+  CLI::App *command = commandLine.add_subcommand(
+      "validate", "Checks that a module keeps the contract between host and extension");
+  command->add_option("--module", options->module, "The module; else our own")->type_name("FILE");
+  command->add_option("--plugin", options->module)->group("");  // its name in 0.1
+  command
+      ->add_option("--ppd", options->ppd,
+                   "A PPD with the options of the module's panels; else one with ours")
+      ->type_name("FILE");
+  command->add_option("--seed", options->seed, "The first of the random sessions' seeds")
+      ->capture_default_str();
+  command->add_option("--sessions", options->sessions, "How many random sessions")
+      ->check(CLI::NonNegativeNumber)
+      ->capture_default_str();
+  command->add_option("--only", options->only, "Runs one check")->type_name("NAME");
+  command->add_flag("--in-process", options->inProcess,
+                    "Runs in this process, for a debugger, instead of one process a check");
+  command
+      ->add_option("--keep", options->keep, "Leaves the script of a session that goes wrong there")
+      ->type_name("DIR")
+      ->check(CLI::ExistingDirectory);
+  command->add_flag("--script", options->script,
+                    "Writes the random session that the seed stands for, to replay it");
+  command->add_flag("--list", options->list, "Names the checks");
+  command->add_flag("--json", options->json, "Writes the results as JSON");
+  return {command, [options] { return validate(*options); }};
 }
 
 }  // namespace kwopde::app

@@ -20,6 +20,7 @@
 #include "headless/Headless.h"
 #include "host/dialog/QueueDialog.h"
 #include "panels/MediaPDE.h"
+#include "platform/PanelInspector.h"
 #include "plugin/KWOPDEPlugin.h"
 #include "plugin/PDELogging.h"
 
@@ -123,7 +124,7 @@ void wholeSession(const std::shared_ptr<HostCallback> &host) {
   }
   while (picks > 0)
     for (const auto &panel : panels)
-      for (const PanelControl &control : panel->controls())
+      for (const PanelControl &control : controlsOf(*panel))
         if (auto *popUp = dynamic_cast<PopUpButton *>(control.control); popUp && picks > 0)
           user.pick(*popUp, picks-- % 2);
   for (const auto &panel : panels) {

@@ -8,6 +8,7 @@
 #include "headless/Headless.h"
 #include "host/PpdSession.h"
 #include "host/ScriptRunner.h"
+#include "host/TraceTo.h"
 
 namespace kwopde::fuzz {
 
@@ -18,10 +19,9 @@ inline void runScript(std::shared_ptr<host::PpdSession> session, const std::stri
   std::ostringstream out;
   std::ostringstream errors;
   host::ScriptRunner runner(module, std::move(session), user, out, errors);
-  module.setLogSink(&runner);
+  const host::TraceTo trace(module, &runner);
   std::istringstream commands(script);
   runner.run(commands);
-  module.setLogSink(nullptr);
 }
 
 }  // namespace kwopde::fuzz

@@ -1,8 +1,9 @@
 #include "headless/Headless.h"
 
 #include <algorithm>
-#include <functional>
 
+#include "panels/PanelClasses.h"
+#include "platform/MenuItems.h"
 #include "plugin/KWOPDEPlugin.h"
 #include "plugin/PDELogging.h"
 
@@ -10,25 +11,36 @@ namespace kwopde::headless {
 
 namespace {
 
-/// What every control has: whether it is enabled, and its action.
+/// What every control is: it can be disabled, and it may send an action.
 template <class Base>
 class Control : public Base {
 public:
   bool isEnabled() const override { return enabled_; }
   void setEnabled(bool enabled) override { enabled_ = enabled; }
+  TextField *viewWithTag(int) override { return nullptr; }
+  void *nativeView() const override { return nullptr; }
 
-  std::function<void()> action;
+  /// Acts as if a person had worked it.
+  void send() const {
+    if (owner_) owner_->performAction(action_, this);
+  }
+  void setAction(InterfaceOwner &owner, std::string_view action) {
+    owner_ = &owner;
+    action_ = action;
+  }
 
 private:
   bool enabled_ = true;
+  InterfaceOwner *owner_ = nullptr;
+  std::string action_;
 };
 
-class HeadlessPopUp final : public Control<PopUpButton>, public Menu {
+class HeadlessPopUp final : public Control<PopUpButton>, public MenuItems {
 public:
   std::string_view className() const override { return "HeadlessPopUp"; }
   Menu *menu() override { return this; }
   void removeAllItems() override {
-    items_.clear();
+    clear();
     selected_ = -1;
   }
   void selectItemAtIndex(int index) override {
@@ -36,16 +48,11 @@ public:
   }
   int indexOfSelectedItem() const override { return selected_; }
   void addItem(MenuItem item) override {
-    items_.push_back(std::move(item));
+    MenuItems::addItem(std::move(item));
     selected_ = std::max(selected_, 0);
-  }
-  const MenuItem *itemAtIndex(int index) const override {
-    const auto i = static_cast<std::size_t>(index);
-    return index >= 0 && i < items_.size() ? &items_[i] : nullptr;
   }
 
 private:
-  std::vector<MenuItem> items_;
   int selected_ = -1;
 };
 
@@ -74,7 +81,7 @@ private:
 };
 
 /// A panel's view, which owns its controls.
-class HeadlessView final : public View {
+class HeadlessView final : public Control<View> {
 public:
   std::string_view className() const override { return "HeadlessView"; }
   std::vector<std::shared_ptr<View>> controls;
@@ -83,36 +90,26 @@ public:
 class Loader final : public InterfaceLoader {
 public:
   bool loadNibNamed(std::string_view, InterfaceOwner &owner) override {
-    const auto *panel = dynamic_cast<const Panel *>(&owner);
+    const auto *panel = dynamic_cast<const PanelInspector *>(&owner);
     if (!panel) return false;
     const auto view = std::make_shared<HeadlessView>();
-    for (const PanelControl &wanted : panel->controls()) {
-      const std::string outlet(wanted.outlet);
-      if (outlet.ends_with("PopUp"))
-        add<HeadlessPopUp>(*view, outlet, owner, outlet.size() - 5);
-      else if (outlet.ends_with("Slider"))
-        add<HeadlessSlider>(*view, outlet, owner, outlet.size() - 6);
-      else
-        add<HeadlessField>(*view, outlet, owner, 0);
+    const auto add = [&](std::string_view outlet, auto control) {
+      view->controls.push_back(control);
+      owner.setOutlet(outlet, control);
+      return control;
+    };
+    for (const PanelOption &option : panel->options()) {
+      if (!option.popUp.empty())
+        add(option.popUp, std::make_shared<HeadlessPopUp>())->setAction(owner, option.action);
+      if (!option.slider.empty())
+        add(option.slider, std::make_shared<HeadlessSlider>())->setAction(owner, option.action);
+      if (!option.field.empty()) add(option.field, std::make_shared<HeadlessField>());
     }
+    // What is left belongs to no option: captions.
+    for (const PanelControl &left : panel->controls())
+      if (!left.control) add(left.outlet, std::make_shared<HeadlessField>());
     owner.setOutlet("pdeView", view);
     return true;
-  }
-
-private:
-  /// The first `nameLength` letters of the outlet name its action: "gammaSlider" sends
-  /// "changeGammaOption:".
-  template <class C>
-  static void add(HeadlessView &view, const std::string &outlet, InterfaceOwner &owner,
-                  std::size_t nameLength) {
-    auto control = std::make_shared<C>();
-    if (nameLength > 0) {
-      std::string action = "change" + outlet.substr(0, nameLength) + "Option:";
-      action[6] = static_cast<char>(action[6] - 'a' + 'A');
-      control->action = [&owner, action] { owner.performAction(action); };
-    }
-    view.controls.push_back(control);
-    owner.setOutlet(outlet, control);
   }
 };
 
@@ -127,12 +124,13 @@ public:
 
 }  // namespace
 
-Module::Module() : loader_(std::make_unique<Loader>()), bundle_(std::make_shared<KeyBundle>()) {
-  Bundle::setInterfaceLoader(loader_.get());
-}
+Module::Module()
+    : loader_(std::make_unique<Loader>()),
+      loaderBefore_(Bundle::setInterfaceLoader(loader_.get())),
+      bundle_(std::make_shared<KeyBundle>()) {}
 
 Module::~Module() {
-  Bundle::setInterfaceLoader(nullptr);
+  Bundle::setInterfaceLoader(loaderBefore_);
 }
 
 std::unique_ptr<PlugIn> Module::makePlugIn() {
@@ -140,18 +138,18 @@ std::unique_ptr<PlugIn> Module::makePlugIn() {
 }
 
 std::vector<PanelRequirement> Module::requirements() const {
-  return KWOPDEPlugIn::requirements();
+  return panelRequirements();
 }
 
-void Module::setLogSink(LogSink *sink) {
-  setTraceSink(sink);
+LogSink *Module::setLogSink(LogSink *sink) {
+  return setTraceSink(sink);
 }
 
 bool UserInput::pick(PopUpButton &popUp, int index) {
   auto *control = dynamic_cast<HeadlessPopUp *>(&popUp);
   if (!control) return false;
   control->selectItemAtIndex(index);
-  control->action();
+  control->send();
   return true;
 }
 
@@ -159,7 +157,7 @@ bool UserInput::slide(Slider &slider, double value) {
   auto *control = dynamic_cast<HeadlessSlider *>(&slider);
   if (!control) return false;
   control->setDoubleValue(value);
-  control->action();
+  control->send();
   return true;
 }
 

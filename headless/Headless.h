@@ -5,14 +5,15 @@
 #include <memory>
 #include <vector>
 
-#include "host/UserInput.h"
+#include "platform/PanelInspector.h"
 #include "platform/PlugIn.h"
+#include "platform/UserInput.h"
 
 namespace kwopde::headless {
 
 /// The extension's module on this toolkit. Every panel gets every control that it asks for, so
 /// there are no interface files; its sliders reach from -10 to 10. Texts are their keys.
-class Module final : public PlugInModule {
+class Module final : public PlugInModule, public ModuleInspector {
 public:
   Module();
   ~Module() override;
@@ -20,15 +21,16 @@ public:
   std::shared_ptr<Bundle> bundle() override { return bundle_; }
   std::unique_ptr<PlugIn> makePlugIn() override;
   std::vector<PanelRequirement> requirements() const override;
-  void setLogSink(LogSink *sink) override;
+  LogSink *setLogSink(LogSink *sink) override;
 
 private:
   std::unique_ptr<InterfaceLoader> loader_;
+  InterfaceLoader *loaderBefore_;
   std::shared_ptr<Bundle> bundle_;
 };
 
 /// Works these controls, which send their actions as a toolkit's do.
-class UserInput final : public host::UserInput {
+class UserInput final : public kwopde::UserInput {
 public:
   bool pick(PopUpButton &popUp, int index) override;
   bool slide(Slider &slider, double value) override;

@@ -12,9 +12,12 @@
 #include <optional>
 
 #include "host/Constraints.h"
-#include "host/NumericChoice.h"
+#include "host/Extension.h"
+#include "host/MarkableChoice.h"
 #include "host/PpdSession.h"
+#include "host/TraceTo.h"
 #include "platform/Numbers.h"
+#include "platform/PanelInspector.h"
 
 namespace kwopde::host {
 
@@ -71,18 +74,11 @@ public:
 
   PpdReport run() {
     NullSink sink;
-    module_.setLogSink(&sink);
-    {
-      const auto bundle = module_.bundle();
-      const auto plugIn = module_.makePlugIn();
-      plugIn->initWithBundle(bundle.get());
-      const std::string type(kPrinterModuleTypeIDStr);
-      const PanelList *panels = plugIn->PDEPanelsForType(&type, session_);
-      if (panels)
-        for (const auto &panel : *panels) checkPanel(*panel);
-      checkMissingPanels();
-    }
-    module_.setLogSink(nullptr);
+    const TraceTo trace(module_, &sink);
+    Extension extension(module_, session_);
+    if (const PanelList *panels = extension.open())
+      for (const auto &panel : *panels) checkPanel(*panel);
+    checkMissingPanels();
     std::stable_sort(report_.findings.begin(), report_.findings.end(),
                      [](const Finding &a, const Finding &b) { return a.line < b.line; });
     return std::move(report_);
@@ -95,8 +91,10 @@ private:
   }
 
   void checkMissingPanels() {
+    const ModuleInspector *inspector = inspectorOf(module_);
+    if (!inspector) return;
     std::string before;  // the media panels need the same, so one note is enough
-    for (const PanelRequirement &needed : module_.requirements()) {
+    for (const PanelRequirement &needed : inspector->requirements()) {
       const std::string keys = fmt::format("{}", fmt::join(needed.anyOf, " or "));
       const bool appears =
           std::any_of(needed.anyOf.begin(), needed.anyOf.end(), [&](const std::string &key) {
@@ -114,7 +112,7 @@ private:
     report_.panels.emplace_back(panel.className());
     panel.panelView();  // it has the sliders
     std::map<std::string, std::string> titles;
-    for (const PanelOption &row : panel.options()) {
+    for (const PanelOption &row : optionsOf(panel)) {
       ppd_option_t *option = ppdFindOption(session_->ppdFile(), row.key.c_str());
       if (!option) {
         find(Severity::note, row.key, 0,
@@ -187,7 +185,7 @@ private:
     };
     for (int i = 0; i < option.num_choices; ++i) {
       const ppd_choice_t &choice = option.choices[i];
-      if (std::strcmp(choice.choice, "Custom") == 0 || read(choice.text) == read(choice.choice))
+      if (std::strcmp(choice.choice, kCustom) == 0 || read(choice.text) == read(choice.choice))
         continue;
       find(Severity::error, row.key, lines_.choice(row.key, choice.choice),
            fmt::format("the text of {} reads as {}, and the panel shows the text", choice.choice,
@@ -199,9 +197,7 @@ private:
 
   /// Every number that the slider can reach has to be listed or inside the custom limits.
   void checkReach(ppd_option_t &option, const PanelOption &row, const Panel &panel) {
-    const Slider *slider = nullptr;
-    for (const PanelControl &control : panel.controls())
-      if (control.outlet == row.slider) slider = dynamic_cast<const Slider *>(control.control);
+    const auto *slider = inspectorOf(panel)->control<Slider>(row.slider);
     if (!slider) return;
     // Real values are cut to hundredths and written with six decimals.
     const int perUnit = row.kind == PanelOption::Kind::integer ? 1 : 100;

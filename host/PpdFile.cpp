@@ -8,6 +8,7 @@
 #include <cstring>
 
 #include "host/Error.h"
+#include "host/MarkableChoice.h"
 
 namespace kwopde::host {
 
@@ -76,7 +77,7 @@ std::string PpdFile::textOf(const std::string &key, const std::string &choice) c
   ppd_option_t *option = ppdFindOption(get(), key.c_str());
   const ppd_choice_t *found = option ? ppdFindChoice(option, choice.c_str()) : nullptr;
   // A custom value is best told by its number.
-  if (choice.starts_with("Custom.")) return choice.substr(7);
+  if (const auto number = customNumber(choice)) return std::string(*number);
   return found && *found->text ? found->text : choice;
 }
 

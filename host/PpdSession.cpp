@@ -71,33 +71,28 @@ bool PpdSession::mark(const std::string &key, const std::string &choice) {
 
 void PpdSession::setMark(const ppd_option_t &option, const MarkableChoice &choice) {
   ppdMarkOption(ppd_.get(), option.keyword, choice.keyword().c_str());
-  const std::string key = option.keyword;
-  ppd_choice_t *const custom = ppdFindChoice(const_cast<ppd_option_t *>(&option), "Custom");
-  if (!custom) return;
-  // The panels read numbers from the text of the marked choice.
-  const auto ownText = customTexts_.try_emplace(key, custom->text).first;
-  const std::string &text = choice.number.empty() ? ownText->second : choice.number;
-  custom->text[text.copy(custom->text, PPD_MAX_TEXT - 1)] = 0;
-  customNumbers_[key] = choice.number;
+  ppd_choice_t *const record = ppdFindChoice(const_cast<ppd_option_t *>(&option), kCustom);
+  if (!record) return;
+  Custom &custom = customs_.try_emplace(option.keyword, Custom{record->text, {}}).first->second;
+  custom.number = choice.number;
+  const std::string &text = custom.number.empty() ? custom.ownText : custom.number;
+  record->text[text.copy(record->text, PPD_MAX_TEXT - 1)] = 0;
 }
 
 void PpdSession::announce(const OptionChoice &change) {
   // A panel reads a number from the keyword that it is told.
   OptionChoice told = change;
-  if (const auto number = customNumbers_.find(change.key);
-      number != customNumbers_.end() && !number->second.empty())
-    told.choice = number->second;
+  if (const auto number = customNumber(change.choice)) told.choice = std::string(*number);
   for (SessionObserver *observer : observers_) observer->willAnnounce(told);
   if (!panels_) return;
   for (const auto &panel : *panels_) panel->PPDOptionKeyValueDidChange(&told.key, &told.choice);
 }
 
 std::optional<std::string> PpdSession::markedChoice(const std::string &key) const {
-  const ppd_choice_t *choice = ppdFindMarkedChoice(ppd_.get(), key.c_str());
+  ppd_choice_t *choice = ppdFindMarkedChoice(ppd_.get(), key.c_str());
   if (!choice) return {};
-  const auto number = customNumbers_.find(choice->option->keyword);
-  const bool isCustom = number != customNumbers_.end() && !number->second.empty();
-  return isCustom ? "Custom." + number->second : choice->choice;
+  const auto custom = customs_.find(choice->option->keyword);
+  return MarkableChoice{choice, custom == customs_.end() ? "" : custom->second.number}.keyword();
 }
 
 std::optional<CustomLimits> PpdSession::limits(const std::string &key) const {

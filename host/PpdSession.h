@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-#include "host/NumericChoice.h"
+#include "host/MarkableChoice.h"
 #include "host/OptionChoice.h"
 #include "host/PpdFile.h"
 #include "platform/HostCallback.h"
@@ -106,8 +106,14 @@ private:
   bool refusesAll_ = false;
   const PanelList *panels_ = nullptr;
   std::vector<SessionObserver *> observers_;
-  std::map<std::string, std::string> customNumbers_;  // by option, of what is marked as custom
-  std::map<std::string, std::string> customTexts_;    // by option, the PPD's own
+
+  /// The choice that stands for an option's custom values. Its record shows the number that is
+  /// marked, since panels read numbers from texts.
+  struct Custom {
+    std::string ownText;  // the PPD's
+    std::string number;   // what is marked; empty while another choice is
+  };
+  std::map<std::string, Custom> customs_;  // by option
 };
 
 }  // namespace kwopde::host

@@ -1,6 +1,7 @@
 #include "host/Script.h"
 
 #include "host/Error.h"
+#include "platform/Object.h"
 
 namespace kwopde::host {
 
@@ -25,6 +26,12 @@ std::string takeQuoted(std::string_view &rest) {
 }
 
 }  // namespace
+
+std::string quoted(std::string_view text) {
+  std::string out;
+  appendQuoted(out, text);
+  return out;
+}
 
 bool isBlank(std::string_view line) {
   const auto start = line.find_first_not_of(kBlanks);

@@ -11,6 +11,9 @@ namespace kwopde::host {
 /// A word of a command; no text stands for `nil`.
 using Word = std::optional<std::string>;
 
+/// Returns `text` as a transcript shows it, in double quotes.
+std::string quoted(std::string_view text);
+
 /// Whether `line` holds no command: it is blank or a comment.
 bool isBlank(std::string_view line);
 

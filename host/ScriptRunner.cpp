@@ -10,6 +10,8 @@
 #include <string>
 
 #include "host/Error.h"
+#include "host/PanelCalls.h"
+#include "platform/PanelInspector.h"
 
 namespace kwopde::host {
 
@@ -23,28 +25,8 @@ const std::string *pointerTo(const Word &word) {
   return word ? &*word : nullptr;
 }
 
-std::string quoted(std::string_view text) {
-  std::string out;
-  appendQuoted(out, text);
-  return out;
-}
-
 std::string yesOrNo(bool answer) {
   return answer ? "YES" : "NO";
-}
-
-std::string objectText(const Object *object) {
-  return object ? fmt::format("<{}>", object->className()) : "nil";
-}
-
-template <class List, class Text>
-std::string listText(const List &list, Text &&text) {
-  std::string out = "[";
-  for (const auto &element : list) {
-    if (out.size() > 1) out += ", ";
-    out += text(element);
-  }
-  return out + "]";
 }
 
 /// What `controls` shows for one control.
@@ -75,16 +57,15 @@ Number number(const Word &word) {
   return value;
 }
 
-/// How a script names the panels, by their classes.
-constexpr struct {
-  std::string_view word;
-  std::string_view className;
-} kPanelWords[] = {
-    {"media", "MediaPDE"},
-    {"media", "Media7032PDE"},
-    {"color", "ColorPDE"},
-    {"sharpen", "SharpenPDE"},
-};
+/// Returns the words of the panels that `module` could make, each once; none when it does not tell.
+std::vector<std::string_view> panelWords(const PlugInModule &module) {
+  std::vector<std::string_view> words;
+  if (const ModuleInspector *inspector = inspectorOf(module))
+    for (const PanelRequirement &needed : inspector->requirements())
+      if (std::find(words.begin(), words.end(), needed.word) == words.end())
+        words.push_back(needed.word);
+  return words;
+}
 
 /// The row of a table that is called `name`; null when there is none.
 template <class Table>
@@ -119,104 +100,37 @@ const ScriptRunner::Command ScriptRunner::kCommands[] = {
     {"marked", 0, 1, &ScriptRunner::showMarked}, {"release", 0, 0, &ScriptRunner::release},
 };
 
-struct ScriptRunner::PlugInOperation {
-  std::string_view name;
-  std::size_t most;
-  std::string (*run)(ScriptRunner &runner, const std::vector<Word> &words);
+const ScriptRunner::Command ScriptRunner::kPlugInOperations[] = {
+    {"initWithBundle", 0, 0, &ScriptRunner::initWithBundle},
+    {"PDEPanelsForType", 0, 1, &ScriptRunner::PDEPanelsForType},
 };
 
-const ScriptRunner::PlugInOperation ScriptRunner::kPlugInOperations[] = {
-    {"initWithBundle", 0,
-     [](ScriptRunner &runner, const std::vector<Word> &) {
-       return yesOrNo(runner.plugIn().initWithBundle(runner.bundle_.get()));
-     }},
-    {"PDEPanelsForType", 1,
-     [](ScriptRunner &runner, const std::vector<Word> &words) {
-       const Word type = words.size() > 1 ? words[1] : Word(kPrinterModuleTypeIDStr);
-       runner.panels_ = runner.plugIn().PDEPanelsForType(pointerTo(type), runner.session_);
-       runner.session_->setPanels(runner.panels_);
-       if (!runner.panels_) return std::string("nil");
-       return listText(*runner.panels_, [](const auto &panel) { return objectText(panel.get()); });
-     }},
-};
+std::string ScriptRunner::initWithBundle(const std::vector<Word> &) {
+  return yesOrNo(extension().plugIn().initWithBundle(extension().bundle()));
+}
 
-struct ScriptRunner::PanelOperation {
-  std::string_view name;
-  std::size_t least;
-  std::size_t most;
-  std::string (*run)(Panel &panel, const std::vector<Word> &words);
-};
-
-const ScriptRunner::PanelOperation
-    ScriptRunner::kPanelOperations[] =
-        {
-            {"panelView", 0, 0,
-             [](Panel &panel, const std::vector<Word> &) { return objectText(panel.panelView()); }},
-            {"panelName", 0, 0,
-             [](Panel &panel, const std::vector<Word> &) {
-               const std::string *name = panel.panelName();
-               return name ? quoted(*name) : "nil";
-             }},
-            {"panelKind", 0, 0,
-             [](Panel &panel, const std::vector<Word> &) { return quoted(panel.panelKind()); }},
-            {"supportedPPDOptionKeys", 0, 0,
-             [](Panel &panel, const std::vector<Word> &) {
-               return listText(panel.supportedPPDOptionKeys(), quoted);
-             }},
-            {"willShow", 0, 0,
-             [](Panel &panel, const std::vector<Word> &) {
-               panel.willShow();
-               return std::string("void");
-             }},
-            {"shouldHide", 0, 0,
-             [](Panel &panel, const std::vector<Word> &) { return yesOrNo(panel.shouldHide()); }},
-            {"shouldPrint", 0, 0,
-             [](Panel &panel, const std::vector<Word> &) { return yesOrNo(panel.shouldPrint()); }},
-            {"shouldShowHelp", 0, 0,
-             [](Panel &panel, const std::vector<Word> &) {
-               return yesOrNo(panel.shouldShowHelp());
-             }},
-            {"PPDOptionKeyValueDidChange", 2, 2,
-             [](Panel &panel, const std::vector<Word> &words) {
-               panel.PPDOptionKeyValueDidChange(pointerTo(words[1]), pointerTo(words[2]));
-               return std::string("void");
-             }},
-            {"restoreValuesAndReturnError", 0, 0,
-             [](Panel &panel,
-                const std::vector<Word>
-                    &) { return yesOrNo(panel.restoreValuesAndReturnError(nullptr)); }},
-            {"saveValuesAndReturnError", 0, 0,
-             [](Panel &panel, const std::vector<Word>
-                                  &) { return yesOrNo(panel.saveValuesAndReturnError(nullptr)); }},
-            {"summaryInfo", 0, 0,
-             [](
-                 Panel &panel,
-                 const std::vector<Word> &) { return panel.summaryInfo()->description(); }},
-            {"getNonPPDSettingsFromPrintSettings", 0, 0,
-             [](Panel &panel, const std::vector<Word> &) {
-               panel.getNonPPDSettingsFromPrintSettings();
-               return std::string("void");
-             }},
-            {"writeNonPPDSettingsToPrintSettings", 0, 0,
-             [](Panel &panel, const std::vector<Word> &) {
-               panel.writeNonPPDSettingsToPrintSettings();
-               return std::string("void");
-             }},
-};
+std::string ScriptRunner::PDEPanelsForType(const std::vector<Word> &words) {
+  const Word type = words.size() > 1 ? words[1] : Word(kPrinterModuleTypeIDStr);
+  const PanelList *panels = extension().ask(pointerTo(type));
+  if (!panels) return "nil";
+  std::vector<std::string> classes;
+  for (const auto &panel : *panels) classes.push_back(fmt::format("<{}>", panel->className()));
+  return fmt::format("[{}]", fmt::join(classes, ", "));
+}
 
 ScriptRunner::ScriptRunner(PlugInModule &module, std::shared_ptr<PpdSession> session,
                            UserInput &user, std::ostream &out, std::ostream &errors)
-    : session_(std::move(session)),
+    : module_(module),
+      session_(std::move(session)),
       user_(user),
       out_(out),
       errors_(errors),
-      bundle_(module.bundle()),
-      plugIn_(module.makePlugIn()) {
+      extension_(std::in_place, module, session_) {
   session_->addObserver(this);
 }
 
 ScriptRunner::~ScriptRunner() {
-  dropPlugIn();
+  extension_.reset();
   session_->removeObserver(this);
 }
 
@@ -264,47 +178,47 @@ std::string ScriptRunner::perform(const std::vector<Word> &words) {
   const std::string target = name.substr(0, point);
   const std::string operation = name.substr(point + 1);
   if (target == "plugin") {
-    const PlugInOperation *found = find(kPlugInOperations, operation);
+    const Command *found = find(kPlugInOperations, operation);
     if (!found) throw Error(fmt::format("a plug-in has no operation \"{}\"", operation));
-    checkCount(words, 0, found->most);
-    return found->run(*this, words);
+    checkCount(words, found->least, found->most);
+    return (this->*found->run)(words);
   }
   Panel &found = panel(target);
-  const PanelOperation *row = find(kPanelOperations, operation);
+  const PanelCall *row = findPanelCall(operation);
   if (!row) throw Error(fmt::format("a panel has no operation \"{}\"", operation));
-  checkCount(words, row->least, row->most);
-  return row->run(found, words);
+  checkCount(words, row->words, row->words);
+  return row->call(found, words);
 }
 
-PlugIn &ScriptRunner::plugIn() const {
-  if (!plugIn_) throw Error("the plug-in has been released");
-  return *plugIn_;
+Extension &ScriptRunner::extension() {
+  if (!extension_) throw Error("the plug-in has been released");
+  return *extension_;
+}
+
+const PanelList *ScriptRunner::panels() const {
+  return extension_ ? extension_->panels() : nullptr;
 }
 
 Panel &ScriptRunner::panel(std::string_view word) const {
-  bool known = false;
-  for (const auto &row : kPanelWords) {
-    if (row.word != word) continue;
-    known = true;
-    if (!panels_) continue;
-    for (const auto &panel : *panels_)
-      if (panel->className() == row.className) return *panel;
-  }
-  throw Error(known ? fmt::format("there is no {} panel", word)
-                    : fmt::format("\"{}\" is not a panel: media, color or sharpen", word));
+  if (panels())
+    for (const auto &panel : *panels())
+      if (wordOf(*panel) == word) return *panel;
+  const auto words = panelWords(module_);
+  if (words.empty() || std::find(words.begin(), words.end(), word) != words.end())
+    throw Error(fmt::format("there is no {} panel", word));
+  throw Error(fmt::format("\"{}\" is not a panel: {} or {}", word,
+                          fmt::join(words.begin(), words.end() - 1, ", "), words.back()));
 }
 
 template <class Control>
 Control &ScriptRunner::control(const Word &word, std::string_view kind) const {
   const std::string name = nameOf(word);
   const auto point = std::min(name.find('.'), name.size());
-  const auto controls = panel(name.substr(0, point)).controls();
-  const auto outlet = name.substr(std::min(point + 1, name.size()));
-  const auto row = std::find_if(controls.begin(), controls.end(),
-                                [&](const PanelControl &c) { return c.outlet == outlet; });
-  if (row == controls.end() || !row->control)
-    throw Error(fmt::format("there is no control {}", name));
-  auto *control = dynamic_cast<Control *>(row->control);
+  const PanelInspector *inspector = inspectorOf(panel(name.substr(0, point)));
+  View *const view =
+      inspector ? inspector->control(name.substr(std::min(point + 1, name.size()))) : nullptr;
+  if (!view) throw Error(fmt::format("there is no control {}", name));
+  auto *control = dynamic_cast<Control *>(view);
   if (!control) throw Error(fmt::format("{} is not a {}", name, kind));
   if (!control->isEnabled()) throw Error(fmt::format("{} is disabled", name));
   return *control;
@@ -335,8 +249,9 @@ std::string ScriptRunner::type(const std::vector<Word> &words) {
 }
 
 std::string ScriptRunner::showControls(const std::vector<Word> &words) {
-  for (const auto &[outlet, control] : panel(nameOf(words[1])).controls())
-    fmt::print(out_, "{} = {}\n", outlet, stateText(control));
+  if (const PanelInspector *inspector = inspectorOf(panel(nameOf(words[1]))))
+    for (const auto &[outlet, control] : inspector->controls())
+      fmt::print(out_, "{} = {}\n", outlet, stateText(control));
   return "void";
 }
 
@@ -356,9 +271,9 @@ std::string ScriptRunner::showMarked(const std::vector<Word> &words) {
     const auto choice = words[1] ? session_->markedChoice(*words[1]) : std::nullopt;
     return choice ? quoted(*choice) : "nil";
   }
-  if (panels_)
-    for (const auto &panel : *panels_)
-      for (const PanelOption &option : panel->options()) {
+  if (panels())
+    for (const auto &panel : *panels())
+      for (const PanelOption &option : optionsOf(*panel)) {
         if (!ppdFindOption(session_->ppdFile(), option.key.c_str())) continue;
         fmt::print(out_, "{} = {}\n", option.key,
                    session_->markedChoice(option.key).value_or("nil"));
@@ -367,15 +282,9 @@ std::string ScriptRunner::showMarked(const std::vector<Word> &words) {
 }
 
 std::string ScriptRunner::release(const std::vector<Word> &) {
-  plugIn();
-  dropPlugIn();
+  extension();
+  extension_.reset();
   return "void";
-}
-
-void ScriptRunner::dropPlugIn() {
-  session_->setPanels(nullptr);
-  panels_ = nullptr;
-  plugIn_.reset();
 }
 
 }  // namespace kwopde::host

@@ -3,15 +3,17 @@
 
 #include <istream>
 #include <memory>
+#include <optional>
 #include <ostream>
 #include <string>
 #include <string_view>
 
+#include "host/Extension.h"
 #include "host/PpdSession.h"
 #include "host/Script.h"
-#include "host/UserInput.h"
 #include "platform/LogSink.h"
 #include "platform/PlugIn.h"
+#include "platform/UserInput.h"
 
 namespace kwopde::host {
 
@@ -26,8 +28,8 @@ public:
   /// Runs every command of `script`. False when one of them could not be run.
   bool run(std::istream &script);
 
-  /// The panels that the plug-in made last; null when there are none.
-  const PanelList *panels() const { return panels_; }
+  /// Returns the panels that the plug-in made last; null when there are none.
+  const PanelList *panels() const;
 
   void requestWasAnswered(const std::string *key, const std::string *choice,
                           const Answer &answer) override;
@@ -38,11 +40,8 @@ public:
 
 private:
   struct Command;
-  struct PlugInOperation;
-  struct PanelOperation;
   static const Command kCommands[];
-  static const PlugInOperation kPlugInOperations[];
-  static const PanelOperation kPanelOperations[];
+  static const Command kPlugInOperations[];
 
   /// The command's result, as the transcript shows it. Throws `Error`.
   std::string perform(const std::vector<Word> &words);
@@ -55,21 +54,20 @@ private:
   std::string refuse(const std::vector<Word> &words);
   std::string showMarked(const std::vector<Word> &words);
   std::string release(const std::vector<Word> &words);
+  std::string initWithBundle(const std::vector<Word> &words);
+  std::string PDEPanelsForType(const std::vector<Word> &words);
 
-  PlugIn &plugIn() const;
+  Extension &extension();
   Panel &panel(std::string_view word) const;
   template <class Control>
   Control &control(const Word &word, std::string_view kind) const;
 
-  void dropPlugIn();
-
+  PlugInModule &module_;
   std::shared_ptr<PpdSession> session_;
   UserInput &user_;
   std::ostream &out_;
   std::ostream &errors_;
-  std::shared_ptr<Bundle> bundle_;
-  std::unique_ptr<PlugIn> plugIn_;
-  const PanelList *panels_ = nullptr;  // the plug-in's
+  std::optional<Extension> extension_;  // none once it was released
 };
 
 }  // namespace kwopde::host

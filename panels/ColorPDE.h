@@ -14,6 +14,16 @@ public:
   /// it does not use it.
   void queryTextFieldFromUI(std::optional<std::string> *value, const TextField *FieldUI);
 
+  // The actions, each sent by the control of its option; the sender does not matter.
+  void changeColorModeOption(const Object *) { changeSelection(colorModeSelection); }
+  void changeBrightnessOption(const Object *) { changeValue(brightnessValue); }
+  void changeContrastOption(const Object *) { changeValue(contrastValue); }
+  void changeSaturationOption(const Object *) { changeValue(saturationValue); }
+  void changeGammaOption(const Object *) { changeValue(gammaValue); }
+  void changeRedOption(const Object *) { changeValue(redValue); }
+  void changeGreenOption(const Object *) { changeValue(greenValue); }
+  void changeBlueOption(const Object *) { changeValue(blueValue); }
+
   Outlet<PopUpButton> colorModePopUp;
   Outlet<TextField> brightnessLabel;
   Outlet<Slider> brightnessSlider;

@@ -10,6 +10,14 @@ public:
   Media7032PDE();
   ~Media7032PDE() override { releaseChoices(); }
 
+  // The actions, each sent by the control of its option; the sender does not matter.
+  void changePrintQualityOption(const Object *) { changeSelection(printQualitySelection); }
+  void changePrintFinishOption(const Object *) { changeSelection(printFinishSelection); }
+  void changeMatteLevelOption(const Object *) { changeSelection(matteLevelSelection); }
+  void changeDustRemovalOption(const Object *) { changeSelection(dustRemovalSelection); }
+  void changeRotateImageOption(const Object *) { changeSelection(rotateImageSelection); }
+  void changeMirrorImageOption(const Object *) { changeSelection(mirrorImageSelection); }
+
   Outlet<PopUpButton> printQualityPopUp;
   Outlet<PopUpButton> printFinishPopUp;
   Outlet<TextField> matteLevelLabel;  // the caption; no operation uses it

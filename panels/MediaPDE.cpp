@@ -6,34 +6,22 @@ namespace kwopde {
 
 namespace {
 
-constexpr PopUpRow tracing(PopUpRow row, const char *noSelection) {
+PopUpRow tracing(PopUpRow row, const char *noSelection) {
   row.noSelection = noSelection;
   return row;
 }
 
-constexpr ValueRow tracing(ValueRow row, const char *disabling) {
+ValueRow tracing(ValueRow row, const char *disabling) {
   row.disabling = disabling;
   return row;
 }
 
-constexpr PopUpRow kPopUps[] = {
-    tracing(kPrintQualityRow<MediaPDE>, "printQualitySelection=nil"),
-    tracing(kPrintFinishRow<MediaPDE>, "printFinishSelection=nil"),
-    tracing(kRotateImageRow<MediaPDE>, "rotateImageSelection=nil"),
-    tracing(kMirrorImageRow<MediaPDE>, "mirrorImageSelection=nil"),
-};
-
-constexpr ValueRow kValues[] = {tracing(kPageScaleRow<MediaPDE>, "disabling page scale")};
-
 constexpr PanelTraits kTraits{
     .className = "MediaPDE",
+    .word = "media",
     .interfaceFile = "MediaPDE",
     .nameKey = "MediaPanelName",
     .kind = KWOPDE_KIND_PREFIX ".mediakind",
-    .popUps = kPopUps,
-    .values = kValues,
-    .captions = {},
-    .keyOptions = 2,
     .panelViewEntry = "panelView:",
     .saving = "...saving settings.",
     .updateUIEntry = "updateUI:[%d]",
@@ -44,6 +32,14 @@ constexpr PanelTraits kTraits{
 
 }  // namespace
 
-MediaPDE::MediaPDE() : PanelBase(kTraits) {}
+MediaPDE::MediaPDE()
+    : PanelBase({
+          .traits = kTraits,
+          .popUps = {tracing(printQualityRow(*this), "printQualitySelection=nil"),
+                     tracing(printFinishRow(*this), "printFinishSelection=nil"),
+                     tracing(rotateImageRow(*this), "rotateImageSelection=nil"),
+                     tracing(mirrorImageRow(*this), "mirrorImageSelection=nil")},
+          .values = {tracing(pageScaleRow(*this), "disabling page scale")},
+      }) {}
 
 }  // namespace kwopde

@@ -10,6 +10,12 @@ public:
   MediaPDE();
   ~MediaPDE() override { releaseChoices(); }
 
+  // The actions, each sent by the control of its option; the sender does not matter.
+  void changePrintQualityOption(const Object *) { changeSelection(printQualitySelection); }
+  void changePrintFinishOption(const Object *) { changeSelection(printFinishSelection); }
+  void changeRotateImageOption(const Object *) { changeSelection(rotateImageSelection); }
+  void changeMirrorImageOption(const Object *) { changeSelection(mirrorImageSelection); }
+
   Outlet<PopUpButton> printQualityPopUp;
   Outlet<PopUpButton> printFinishPopUp;
   Outlet<PopUpButton> rotateImagePopUp;

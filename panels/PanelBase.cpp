@@ -1,7 +1,5 @@
 #include "panels/PanelBase.h"
 
-#include <fmt/printf.h>
-
 #include <algorithm>
 
 #include "choice/Encoding.h"
@@ -24,6 +22,11 @@ const char *yesOrNo(bool answer) {
   return answer ? "YES" : "NO";
 }
 
+/// Returns the row's number in a printf format.
+std::string text(const ValueRow &row, const char *format) {
+  return std::visit([&](const auto *value) { return printfText(format, {*value}); }, row.value);
+}
+
 }  // namespace
 
 bool PanelBase::init(const std::shared_ptr<HostCallback> &callback, Bundle *bundle) {
@@ -37,13 +40,13 @@ bool PanelBase::init(const std::shared_ptr<HostCallback> &callback, Bundle *bund
   PDELog(this, "Constraint Handling Available: %s", {yesOrNo(useConstraintHandling)});
   ppd = callback ? callback->ppdFile() : nullptr;
 
-  for (const PopUpRow &row : traits_.popUps) {
-    this->*row.option = ppdFindOption(ppd, row.key);
-    this->*row.choices = ArrayFromPPDOption(this->*row.option);
+  for (const PopUpRow &row : table_.popUps) {
+    row.option = ppdFindOption(ppd, row.key);
+    row.choices = ArrayFromPPDOption(row.option);
   }
-  for (const ValueRow &row : traits_.values) {
-    this->*row.option = ppdFindOption(ppd, row.key);
-    std::visit([&](auto value) { this->*value = row.initialValue; }, row.value);
+  for (const ValueRow &row : table_.values) {
+    row.option = ppdFindOption(ppd, row.key);
+    std::visit([&](auto value) { *value = row.initialValue; }, row.value);
   }
 
   if (isRefused()) {
@@ -62,18 +65,17 @@ PanelBase::~PanelBase() {
 }
 
 void PanelBase::releaseChoices() {
-  for (const PopUpRow &row : traits_.popUps) (this->*row.choices).reset();
+  for (const PopUpRow &row : table_.popUps) row.choices.reset();
 }
 
 bool PanelBase::isRefused() const {
-  const auto keyOptions = traits_.popUps.first(traits_.keyOptions);
-  return std::all_of(keyOptions.begin(), keyOptions.end(),
-                     [this](const PopUpRow &row) { return this->*row.option == nullptr; });
+  return std::none_of(table_.popUps.begin(), table_.popUps.end(),
+                      [](const PopUpRow &row) { return row.isKey && row.option; });
 }
 
 View *PanelBase::panelView() {
-  PDEProlog(this, traits_.panelViewEntry, {traits_.interfaceFile});
-  if (!pdeView) Bundle::loadNibNamed(traits_.interfaceFile, *this);
+  PDEProlog(this, table_.traits.panelViewEntry, {table_.traits.interfaceFile});
+  if (!pdeView) Bundle::loadNibNamed(table_.traits.interfaceFile, *this);
   PDEEpilog(this, "panelView:=NSView(%@, %p)", {pdeView, pdeView});
   return pdeView.get();
 }
@@ -81,30 +83,30 @@ View *PanelBase::panelView() {
 const std::string *PanelBase::panelName() {
   PDEProlog(this, "panelName:");
   if (!thePDEName && pluginBundle)
-    thePDEName = pluginBundle->localizedStringForKey(traits_.nameKey, nullptr, nullptr);
+    thePDEName = pluginBundle->localizedStringForKey(table_.traits.nameKey, nullptr, nullptr);
   PDEEpilog(this, "panelName:=NSString(%@)", {thePDEName});
   return thePDEName ? &*thePDEName : nullptr;
 }
 
 std::string_view PanelBase::panelKind() {
   PDEProlog(this, "panelKind:");
-  PDEEpilog(this, "panelKind:=NSString(%@)", {traits_.kind});
-  return traits_.kind;
+  PDEEpilog(this, "panelKind:=NSString(%@)", {table_.traits.kind});
+  return table_.traits.kind;
 }
 
 const std::vector<std::string> &PanelBase::supportedPPDOptionKeys() {
   PDEProlog(this, "supportedPPDOptionKeys:");
   if (!supportedOptions) {
     auto keys = std::make_shared<std::vector<std::string>>();
-    keys->reserve(traits_.popUps.size() + traits_.values.size());
+    keys->reserve(table_.popUps.size() + table_.values.size());
     const auto addIfSupported = [&](const auto &row) {
-      if (this->*row.option)
+      if (row.option)
         keys->emplace_back(row.key);
       else
         PDELog(this, row.notSupported);
     };
-    std::for_each(traits_.popUps.begin(), traits_.popUps.end(), addIfSupported);
-    std::for_each(traits_.values.begin(), traits_.values.end(), addIfSupported);
+    std::for_each(table_.popUps.begin(), table_.popUps.end(), addIfSupported);
+    std::for_each(table_.values.begin(), table_.values.end(), addIfSupported);
     supportedOptions = keys.get();
     keepForever(keys);  // hosts may look at the list after the panel is gone
   }
@@ -122,7 +124,7 @@ void PanelBase::willShow() {
 
 void PanelBase::saveWhatIsShown() {
   if (!hasInited) return;
-  if (traits_.saving) PDELog(this, traits_.saving);
+  if (table_.traits.saving) PDELog(this, table_.traits.saving);
   querySettingsFromUI();
   saveSettingsToPPD();
 }
@@ -145,14 +147,14 @@ void PanelBase::PPDOptionKeyValueDidChange(const std::string *key, const std::st
   PDEProlog(this, "PPDOptionKeyValueDidChange:(%@) ppdChoice:(%@)", {key, ppdChoice});
   if (key && ppdChoice) {
     const auto named = [&](const auto &row) { return *key == row.key; };
-    const auto popUp = std::find_if(traits_.popUps.begin(), traits_.popUps.end(), named);
-    const auto value = std::find_if(traits_.values.begin(), traits_.values.end(), named);
-    if (popUp != traits_.popUps.end())
-      this->*popUp->selection = FindChoiceForString(ppdChoice, (this->*popUp->choices).get());
-    else if (value != traits_.values.end())
+    const auto popUp = std::find_if(table_.popUps.begin(), table_.popUps.end(), named);
+    const auto value = std::find_if(table_.values.begin(), table_.values.end(), named);
+    if (popUp != table_.popUps.end())
+      popUp->selection = FindChoiceForString(ppdChoice, popUp->choices.get());
+    else if (value != table_.values.end())
       std::visit(Overloaded{
-                     [&](Member<int> number) { this->*number = leadingInteger(*ppdChoice); },
-                     [&](Member<double> number) { this->*number = leadingDouble(*ppdChoice); },
+                     [&](int *number) { *number = leadingInteger(*ppdChoice); },
+                     [&](double *number) { *number = leadingDouble(*ppdChoice); },
                  },
                  value->value);
   }
@@ -177,10 +179,10 @@ bool PanelBase::saveValuesAndReturnError(Error **error) {
 
 std::shared_ptr<const Dictionary> PanelBase::summaryInfo() {
   PDEProlog(this, "summaryInfo:");
-  const auto summary = std::make_shared<Dictionary>(traits_.popUps.size() + traits_.values.size());
-  for (const PopUpRow &row : traits_.popUps) {
-    if (const PDEChoice *selection = this->*row.selection) {
-      const auto title = CreateOptionTitle(this->*row.option);
+  const auto summary = std::make_shared<Dictionary>(table_.popUps.size() + table_.values.size());
+  for (const PopUpRow &row : table_.popUps) {
+    if (const PDEChoice *selection = row.selection) {
+      const auto title = CreateOptionTitle(row.option);
       const std::string *value = selection->userTitle();
       // A text that the PPD has cut or garbled has no place in a summary.
       if (title && value) summary->setObject(*value, *title);
@@ -188,7 +190,7 @@ std::shared_ptr<const Dictionary> PanelBase::summaryInfo() {
       PDELog(this, row.noSelection);
     }
   }
-  for (const ValueRow &row : traits_.values)
+  for (const ValueRow &row : table_.values)
     summary->setObject(text(row, row.summaryFormat), row.summaryKey);
   PDEEpilog(this, "summaryInfo:NSDictionary(%@, %p)=", {summary, summary});
   return summary;
@@ -196,28 +198,31 @@ std::shared_ptr<const Dictionary> PanelBase::summaryInfo() {
 
 std::vector<PanelOption> PanelBase::options() const {
   std::vector<PanelOption> options;
-  for (const PopUpRow &row : traits_.popUps)
-    options.push_back({row.key, PanelOption::Kind::choice, {}});
-  for (const ValueRow &row : traits_.values)
-    options.push_back({row.key,
-                       std::holds_alternative<Member<int>>(row.value) ? PanelOption::Kind::integer
-                                                                      : PanelOption::Kind::real,
-                       row.slider.name});
+  for (const PopUpRow &row : table_.popUps)
+    options.push_back({.key = row.key,
+                       .kind = PanelOption::Kind::choice,
+                       .popUp = row.popUp.name,
+                       .action = row.action.name});
+  for (const ValueRow &row : table_.values)
+    options.push_back({.key = row.key,
+                       .kind = std::holds_alternative<int *>(row.value) ? PanelOption::Kind::integer
+                                                                        : PanelOption::Kind::real,
+                       .field = row.field.name,
+                       .slider = row.slider.name,
+                       .action = row.action.name});
   return options;
 }
 
 PanelRequirement PanelBase::requirement() const {
-  PanelRequirement needed{traits_.className, {}};
-  for (const PopUpRow &row : traits_.popUps.first(traits_.keyOptions))
-    needed.anyOf.emplace_back(row.key);
+  PanelRequirement needed{table_.traits.className, table_.traits.word, {}};
+  for (const PopUpRow &row : table_.popUps)
+    if (row.isKey) needed.anyOf.emplace_back(row.key);
   return needed;
 }
 
 std::vector<PanelControl> PanelBase::controls() const {
   std::vector<PanelControl> controls;
-  forEachOutlet([&](const auto &row) {
-    controls.push_back({row.name, (this->*row.member).get()});
-  });
+  forEachOutlet([&](const auto &row) { controls.push_back({row.name, row.member->get()}); });
   std::sort(controls.begin(), controls.end(),
             [](const PanelControl &a, const PanelControl &b) { return a.outlet < b.outlet; });
   return controls;
@@ -225,12 +230,12 @@ std::vector<PanelControl> PanelBase::controls() const {
 
 template <class Visit>
 void PanelBase::forEachOutlet(Visit &&visit) const {
-  for (const PopUpRow &row : traits_.popUps) visit(row.popUp);
-  for (const ValueRow &row : traits_.values) {
+  for (const PopUpRow &row : table_.popUps) visit(row.popUp);
+  for (const ValueRow &row : table_.values) {
     visit(row.field);
-    if (!row.slider.name.empty()) visit(row.slider);
+    if (row.slider.member) visit(row.slider);
   }
-  for (const auto &row : traits_.captions) visit(row);
+  for (const auto &row : table_.captions) visit(row);
 }
 
 bool PanelBase::setOutlet(std::string_view outlet, const std::shared_ptr<View> &view) {
@@ -240,39 +245,45 @@ bool PanelBase::setOutlet(std::string_view outlet, const std::shared_ptr<View> &
   }
   bool connected = false;
   forEachOutlet([&](const auto &row) {
-    if (row.name == outlet) connected = (this->*row.member).connect(view);
+    if (row.name == outlet) connected = (*row.member).connect(view);
   });
   return connected;
 }
 
-bool PanelBase::performAction(std::string_view action) {
-  for (const PopUpRow &row : traits_.popUps)
-    if (row.action == action) return changeSelection(row), true;
-  for (const ValueRow &row : traits_.values)
-    if (!row.action.empty() && row.action == action) return changeValue(row), true;
-  return false;
+bool PanelBase::performAction(std::string_view action, const Object *sender) {
+  if (action.empty()) return false;
+  const auto perform = [&](const auto &row) {
+    if (row.action.name != action) return false;
+    (this->*row.action.method)(sender);
+    return true;
+  };
+  return std::any_of(table_.popUps.begin(), table_.popUps.end(), perform) ||
+         std::any_of(table_.values.begin(), table_.values.end(), perform);
 }
 
-void PanelBase::changeSelection(const PopUpRow &row) {
-  if (PDEChoice *picked = selectionForPopUp((this->*row.popUp.member).get(), row.key))
-    this->*row.selection = picked;
+void PanelBase::changeSelection(PDEChoice *&selection) {
+  const auto row =
+      std::find_if(table_.popUps.begin(), table_.popUps.end(),
+                   [&](const PopUpRow &popUp) { return &popUp.selection == &selection; });
+  if (PDEChoice *picked = selectionForPopUp(row->popUp.member->get(), row->key)) selection = picked;
   updateUI();
 }
 
-void PanelBase::changeValue(const ValueRow &row) {
-  const auto &slider = this->*row.slider.member;
-  const auto &field = this->*row.field.member;
-  std::visit(Overloaded{
-                 [&](Member<int> value) {
-                   this->*value = slider->intValue();
-                   field->setIntValue(this->*value);
-                 },
-                 [&](Member<double> value) {
-                   this->*value = cutToHundredths(slider->doubleValue());
-                   field->setDoubleValue(this->*value);
-                 },
-             },
-             row.value);
+void PanelBase::changeValue(int &value) {
+  const ValueRow &row = rowOf(&value);
+  value = (*row.slider.member)->intValue();
+  (*row.field.member)->setIntValue(value);
+}
+
+void PanelBase::changeValue(double &value) {
+  const ValueRow &row = rowOf(&value);
+  value = cutToHundredths((*row.slider.member)->doubleValue());
+  (*row.field.member)->setDoubleValue(value);
+}
+
+const ValueRow &PanelBase::rowOf(std::variant<int *, double *> value) const {
+  return *std::find_if(table_.values.begin(), table_.values.end(),
+                       [&](const ValueRow &row) { return row.value == value; });
 }
 
 const char *PanelBase::markedText(const char *key) const {
@@ -285,7 +296,7 @@ void PanelBase::queryIntFromPPD(int *value, const char *forKey) {
   if (const char *marked = markedText(forKey))
     *value = leadingInteger(marked);
   else
-    PDELog(this, traits_.noMarkedChoice);
+    PDELog(this, table_.traits.noMarkedChoice);
   PDEEpilog(this, "queryIntFromPPD:(%d)", {*value});
 }
 
@@ -304,10 +315,10 @@ void PanelBase::queryNSStringFromPPD(std::optional<std::string> *value, const ch
 
 void PanelBase::querySettingsFromPPD() {
   PDEProlog(this, "querySettingsFromPPD:");
-  for (const ValueRow &row : traits_.values)
+  for (const ValueRow &row : table_.values)
     std::visit(Overloaded{
-                   [&](Member<int> value) { queryIntFromPPD(&(this->*value), row.key); },
-                   [&](Member<double> value) { queryDoubleFromPPD(&(this->*value), row.key); },
+                   [&](int *value) { queryIntFromPPD(value, row.key); },
+                   [&](double *value) { queryDoubleFromPPD(value, row.key); },
                },
                row.value);
   PDEEpilog(this, "querySettingsFromPPD:");
@@ -324,27 +335,27 @@ int PanelBase::indexOfMarkedOption(ppd_option_t *option, const char *forKey) {
 
 void PanelBase::updateMarkedSelections() {
   PDEProlog(this, "updateMarkedSelections:");
-  for (const PopUpRow &row : traits_.popUps) {
-    if (!(this->*row.option)) continue;
-    const int index = indexOfMarkedOption(this->*row.option, row.key);
-    const ChoiceList &choices = *(this->*row.choices);
-    this->*row.selection = index >= 0 && static_cast<std::size_t>(index) < choices.size()
-                               ? choices[static_cast<std::size_t>(index)].get()
-                               : nullptr;
+  for (const PopUpRow &row : table_.popUps) {
+    if (!(row.option)) continue;
+    const int index = indexOfMarkedOption(row.option, row.key);
+    const ChoiceList &choices = *row.choices;
+    row.selection = index >= 0 && static_cast<std::size_t>(index) < choices.size()
+                        ? choices[static_cast<std::size_t>(index)].get()
+                        : nullptr;
   }
   PDEEpilog(this, "updateMarkedSelections:=void");
 }
 
 void PanelBase::saveIntToPPD(int value, const std::string &FieldKey) {
   PDEProlog(this, "saveIntToPPD:(%@, %d)", {FieldKey, value});
-  saveNSStringToPPD(fmt::sprintf("%d", value), FieldKey);
+  saveNSStringToPPD(printfText("%d", {value}), FieldKey);
   PDEEpilog(this, "saveIntToPPD:");
 }
 
 void PanelBase::saveDoubleToPPD(double value, const std::string &FieldKey) {
   // Kept: the log's readers know this entry line by the integer's name.
   PDEProlog(this, "saveIntToPPD:(%@, %lf)", {FieldKey, value});
-  saveNSStringToPPD(fmt::sprintf("%lf", value), FieldKey);
+  saveNSStringToPPD(printfText("%lf", {value}), FieldKey);
   PDEEpilog(this, "saveDoubleToPPD:");
 }
 
@@ -359,10 +370,10 @@ void PanelBase::saveNSStringToPPD(const std::string &value, const std::string &F
 
 void PanelBase::saveSettingsToPPD() {
   PDEProlog(this, "saveSettingsToPPD:");
-  for (const ValueRow &row : traits_.values)
+  for (const ValueRow &row : table_.values)
     std::visit(Overloaded{
-                   [&](Member<int> value) { saveIntToPPD(this->*value, row.key); },
-                   [&](Member<double> value) { saveDoubleToPPD(this->*value, row.key); },
+                   [&](int *value) { saveIntToPPD(*value, row.key); },
+                   [&](double *value) { saveDoubleToPPD(*value, row.key); },
                },
                row.value);
   PDEEpilog(this, "saveSettingsToPPD:");
@@ -371,19 +382,19 @@ void PanelBase::saveSettingsToPPD() {
 void PanelBase::initializeUI() {
   PDEProlog(this, "initializeUI:");
   if (!hasInited) {
-    for (const PopUpRow &row : traits_.popUps) {
-      const auto &popUp = this->*row.popUp.member;
-      if (this->*row.option) {
-        InitPopUpFromArray(*popUp.operator->(), (this->*row.choices).get());
+    for (const PopUpRow &row : table_.popUps) {
+      const auto &popUp = *row.popUp.member;
+      if (row.option) {
+        InitPopUpFromArray(*popUp.operator->(), row.choices.get());
       } else {
         PDELog(this, row.disabling);
         popUp->setEnabled(false);
       }
     }
-    for (const ValueRow &row : traits_.values) {
-      if (this->*row.option || row.missing == MissingValue::staysUsable) continue;
+    for (const ValueRow &row : table_.values) {
+      if (row.option || row.missing == MissingValue::staysUsable) continue;
       if (row.disabling) PDELog(this, row.disabling);
-      (this->*row.field.member)->setEnabled(false);
+      (*row.field.member)->setEnabled(false);
     }
     querySettingsFromPPD();
     hasInited = true;
@@ -392,31 +403,30 @@ void PanelBase::initializeUI() {
 }
 
 void PanelBase::updateUI() {
-  PDEProlog(this, traits_.updateUIEntry, {hasInited ? 1 : 0});
+  PDEProlog(this, table_.traits.updateUIEntry, {hasInited ? 1 : 0});
   if (hasInited) {
-    for (const PopUpRow &row : traits_.popUps) {
-      if (!(this->*row.selection)) continue;
-      if (const auto index =
-              IndexOfChoiceIdenticalTo(this->*row.selection, (this->*row.choices).get()))
-        (this->*row.popUp.member)->selectItemAtIndex(*index);
+    for (const PopUpRow &row : table_.popUps) {
+      if (!row.selection) continue;
+      if (const auto index = IndexOfChoiceIdenticalTo(row.selection, row.choices.get()))
+        (*row.popUp.member)->selectItemAtIndex(*index);
       else
         PDELog(this, row.notFound);
     }
-    for (const ValueRow &row : traits_.values) {
-      const auto &field = this->*row.field.member;
+    for (const ValueRow &row : table_.values) {
+      const auto &field = *row.field.member;
       if (row.fieldFormat) {
         field->setStringValue(text(row, row.fieldFormat));
         continue;
       }
-      const auto &slider = this->*row.slider.member;
+      const auto &slider = *row.slider.member;
       std::visit(Overloaded{
-                     [&](Member<int> value) {
-                       field->setIntValue(this->*value);
-                       slider->setIntValue(this->*value);
+                     [&](int *value) {
+                       field->setIntValue(*value);
+                       slider->setIntValue(*value);
                      },
-                     [&](Member<double> value) {
-                       field->setDoubleValue(this->*value);
-                       slider->setDoubleValue(this->*value);
+                     [&](double *value) {
+                       field->setDoubleValue(*value);
+                       slider->setDoubleValue(*value);
                      },
                  },
                  row.value);
@@ -427,17 +437,16 @@ void PanelBase::updateUI() {
 
 void PanelBase::querySettingsFromUI() {
   PDEProlog(this, "querySettingsFromUI:");
-  for (const ValueRow &row : traits_.values) {
-    const auto &field = this->*row.field.member;
-    std::visit(
-        Overloaded{
-            [&](Member<int> value) { this->*value = field->intValue(); },
-            [&](Member<double> value) { this->*value = cutToHundredths(field->doubleValue()); },
-        },
-        row.value);
+  for (const ValueRow &row : table_.values) {
+    const auto &field = *row.field.member;
+    std::visit(Overloaded{
+                   [&](int *value) { *value = field->intValue(); },
+                   [&](double *value) { *value = cutToHundredths(field->doubleValue()); },
+               },
+               row.value);
   }
-  const auto *first = std::get_if<Member<int>>(&traits_.values.front().value);
-  PDEEpilog(this, traits_.querySettingsFromUIExit, {first ? this->**first : 0});
+  const auto *first = std::get_if<int *>(&table_.values.front().value);
+  PDEEpilog(this, table_.traits.querySettingsFromUIExit, {first ? **first : 0});
 }
 
 PDEChoice *PanelBase::selectionForPopUp(PopUpButton *popUp, const std::string &withKey) {
@@ -447,7 +456,7 @@ PDEChoice *PanelBase::selectionForPopUp(PopUpButton *popUp, const std::string &w
   const MenuItem *const item = menu ? menu->itemAtIndex(popUp->indexOfSelectedItem()) : nullptr;
   const auto choice =
       item ? std::dynamic_pointer_cast<PDEChoice>(item->representedObject) : nullptr;
-  if (traits_.request) PDELog(this, traits_.request, {choice});
+  if (table_.traits.request) PDELog(this, table_.traits.request, {choice});
   PDEChoice *result = choice.get();
   if (useConstraintHandling) {
     pdePluginCallbackObject->willChangePPDOptionKeyValue(&withKey,
@@ -464,10 +473,6 @@ void PanelBase::setViewTitleByTag(int tag, const ppd_option_t *fromOptions) {
   const auto title = CreateOptionTitle(fromOptions);
   TextField *const label = pdeView ? pdeView->viewWithTag(tag) : nullptr;
   if (label && title) label->setStringValue(*title);
-}
-
-std::string PanelBase::text(const ValueRow &row, const char *format) const {
-  return std::visit([&](auto value) { return fmt::sprintf(format, this->*value); }, row.value);
 }
 
 }  // namespace kwopde

@@ -4,9 +4,9 @@
 #include <cups/ppd.h>
 
 #include <memory>
-#include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <variant>
 #include <vector>
 
@@ -15,36 +15,44 @@
 #include "platform/Controls.h"
 #include "platform/HostCallback.h"
 #include "platform/Panel.h"
+#include "platform/PanelInspector.h"
 
 namespace kwopde {
 
 class PanelBase;
 
-/// A member of a panel class, seen from the base, as the tables bind it.
-template <class T>
-using Member = T PanelBase::*;
-
-/// Binds `member` of a panel class for use in its table.
-template <class T, class P>
-constexpr Member<T> bind(T P::*member) {
-  return static_cast<Member<T>>(member);
-}
-
-/// An outlet of the interface file and the member that it connects.
+/// An outlet of the interface file and the member that it connects; without a member, the option
+/// has no such control.
 template <class Control>
 struct OutletRow {
-  std::string_view name;  // empty: the option has no such control
-  Member<Outlet<Control>> member;
+  std::string_view name = {};
+  Outlet<Control> *member = nullptr;
 };
 
-/// An option that a pop-up menu shows; a pick is marked at once.
+/// An action of a panel class: its full name and the method that performs it.
+struct ActionRow {
+  using Method = void (PanelBase::*)(const Object *sender);
+
+  ActionRow() = default;
+  template <class P>
+  ActionRow(std::string_view action, void (P::*performs)(const Object *sender))
+      : name(action), method(static_cast<Method>(performs)) {}
+
+  std::string_view name = {};  // "changeGammaOption:"; empty: the option's control sends none
+  Method method = nullptr;
+};
+
+/// An option that a pop-up menu shows; a pick is marked at once. It refers to the panel's own
+/// members.
 struct PopUpRow {
   const char *key;
+  /// The panel is refused when the PPD has none of the options that are key options.
+  bool isKey = false;
   OutletRow<PopUpButton> popUp;
-  Member<std::unique_ptr<ChoiceList>> choices;
-  Member<ppd_option_t *> option;
-  Member<PDEChoice *> selection;
-  std::string_view action;
+  std::unique_ptr<ChoiceList> &choices;
+  ppd_option_t *&option;
+  PDEChoice *&selection;
+  ActionRow action;
   // Trace texts; the log's readers match them as they are spelled.
   const char *notSupported;
   const char *disabling;
@@ -56,34 +64,30 @@ struct PopUpRow {
 enum class MissingValue { staysUsable, isDisabled };
 
 /// An option that is a number; its field is the value of record, and it is marked when the panel is
-/// hidden, printed or saved.
+/// hidden, printed or saved. It refers to the panel's own members.
 struct ValueRow {
   const char *key;
-  Member<ppd_option_t *> option;
-  std::variant<Member<int>, Member<double>> value;
+  ppd_option_t *&option;
+  std::variant<int *, double *> value;
   int initialValue = 0;
   OutletRow<TextField> field;
   const char *fieldFormat = nullptr;  // printf format of the field's text; null: the bare number
   OutletRow<Slider> slider = {};
-  std::string_view action = {};  // the slider's
-  const char *summaryKey;        // not translated
+  ActionRow action = {};   // the slider's
+  const char *summaryKey;  // not translated
   const char *summaryFormat;
   MissingValue missing = MissingValue::staysUsable;
   const char *notSupported;
   const char *disabling = nullptr;  // null: not traced
 };
 
-/// All that tells one panel class from another.
+/// What tells one panel class from another, besides its options.
 struct PanelTraits {
   std::string_view className;
+  std::string_view word;  // as people and scripts call it
   std::string_view interfaceFile;
   const char *nameKey;  // of the localized panel name
   std::string_view kind;
-  std::span<const PopUpRow> popUps;
-  std::span<const ValueRow> values;
-  std::span<const OutletRow<TextField>> captions;  // outlets that no operation uses
-  /// The panel is refused when the PPD has none of the first so many pop-up options.
-  std::size_t keyOptions;
   // Trace texts that are the panel's own; a null one is not traced.
   const char *panelViewEntry;           // may show the interface file
   const char *saving;                   // in shouldHide and shouldPrint
@@ -93,10 +97,18 @@ struct PanelTraits {
   const char *noMarkedChoice;           // of a number's option
 };
 
+/// All that a panel class is: its traits, and its options in the panel's order.
+struct PanelTable {
+  const PanelTraits &traits;
+  std::vector<PopUpRow> popUps;
+  std::vector<ValueRow> values;
+  std::vector<OutletRow<TextField>> captions = {};  // outlets that no operation uses
+};
+
 /// The vendor kind prefix; a panel's kind is this and a suffix.
 #define KWOPDE_KIND_PREFIX "org.kwopde"
 
-class PanelBase : public Panel, public InterfaceOwner {
+class PanelBase : public Panel, public PanelInspector, public InterfaceOwner {
 public:
   /// Makes a panel of class `P`, or null when the PPD lacks its key options; the callback is then
   /// released again. The panel retains `callback` and `andBundle`; each may be null.
@@ -110,10 +122,10 @@ public:
 
   ~PanelBase() override;
 
-  /// What the panel's class needs of a PPD.
+  /// Returns what the panel's class needs of a PPD.
   PanelRequirement requirement() const;
 
-  std::string_view className() const override { return traits_.className; }
+  std::string_view className() const override { return table_.traits.className; }
 
   // The contract with the host.
   View *panelView() override;
@@ -130,12 +142,15 @@ public:
   std::shared_ptr<const Dictionary> summaryInfo() override;
   void getNonPPDSettingsFromPrintSettings() override {}
   void writeNonPPDSettingsToPrintSettings() override {}
+
+  // For tools.
+  std::string_view word() const override { return table_.traits.word; }
   std::vector<PanelOption> options() const override;
   std::vector<PanelControl> controls() const override;
 
   // The contract with the interface file.
   bool setOutlet(std::string_view outlet, const std::shared_ptr<View> &view) override;
-  bool performAction(std::string_view action) override;
+  bool performAction(std::string_view action, const Object *sender) override;
 
   // Reading what the PPD has marked. A number is read from the text of the marked choice, not from
   // its keyword; without a marked choice the value stays as it is.
@@ -179,27 +194,34 @@ public:
   std::shared_ptr<View> pdeView;
 
 protected:
-  explicit PanelBase(const PanelTraits &traits) : traits_(traits) {}
+  explicit PanelBase(PanelTable table) : table_(std::move(table)) {}
 
   /// Releases the choice lists; a panel class calls it in its destructor, while it has them.
   void releaseChoices();
+
+  // What the actions do. The argument is the member that the option's row refers to.
+
+  /// Asks the host to mark what the selection's pop-up shows, and shows the result.
+  void changeSelection(PDEChoice *&selection);
+
+  /// Takes the number at which the value's slider stands, and shows it in the field beside it.
+  void changeValue(int &value);
+  void changeValue(double &value);
 
 private:
   bool init(const std::shared_ptr<HostCallback> &callback, Bundle *bundle);
   bool isRefused() const;
   void saveWhatIsShown();
-  void changeSelection(const PopUpRow &row);
-  void changeValue(const ValueRow &row);
-  std::string text(const ValueRow &row, const char *format) const;
+  const ValueRow &rowOf(std::variant<int *, double *> value) const;
 
-  /// The text shown for the marked choice of `key`; null when none is marked.
+  /// Returns the text shown for the marked choice of `key`; null when none is marked.
   const char *markedText(const char *key) const;
 
   /// Calls `visit` with the row of every outlet but the panel's view.
   template <class Visit>
   void forEachOutlet(Visit &&visit) const;
 
-  const PanelTraits &traits_;
+  const PanelTable table_;
 };
 
 }  // namespace kwopde

@@ -4,63 +4,12 @@ namespace kwopde {
 
 namespace {
 
-constexpr PopUpRow kPopUps[] = {{
-    .key = "sharpnessEnabled",
-    .popUp = {"enableFilterPopUp", bind(&SharpenPDE::enableFilterPopUp)},
-    .choices = bind(&SharpenPDE::enableFilterChoices),
-    .option = bind(&SharpenPDE::enableFilterOption),
-    .selection = bind(&SharpenPDE::enableFilterSelection),
-    .action = "changeEnableFilterOption:",
-    .notSupported = "Enable filter option not supported!",
-    .disabling = "disabling enable filter",
-    .notFound = "Enable filter selection not found!",
-}};
-
-constexpr ValueRow kValues[] = {
-    {
-        .key = "sharpnessAmount",
-        .option = bind(&SharpenPDE::amountOption),
-        .value = bind(&SharpenPDE::amountValue),
-        .field = {"amountLabel", bind(&SharpenPDE::amountLabel)},
-        .slider = {"amountSlider", bind(&SharpenPDE::amountSlider)},
-        .action = "changeAmountOption:",
-        .summaryKey = "Amount",
-        .summaryFormat = "%d %%",
-        .notSupported = "Amount option not supported!",
-    },
-    {
-        .key = "sharpnessRadius",
-        .option = bind(&SharpenPDE::radiusOption),
-        .value = bind(&SharpenPDE::radiusValue),
-        .field = {"radiusLabel", bind(&SharpenPDE::radiusLabel)},
-        .slider = {"radiusSlider", bind(&SharpenPDE::radiusSlider)},
-        .action = "changeRadiusOption:",
-        .summaryKey = "Radius",
-        .summaryFormat = "%d",
-        .notSupported = "Radius option not supported!",
-    },
-    {
-        .key = "sharpnessThreshold",
-        .option = bind(&SharpenPDE::thresholdOption),
-        .value = bind(&SharpenPDE::thresholdValue),
-        .field = {"thresholdLabel", bind(&SharpenPDE::thresholdLabel)},
-        .slider = {"thresholdSlider", bind(&SharpenPDE::thresholdSlider)},
-        .action = "changeThresholdOption:",
-        .summaryKey = "Threshold",
-        .summaryFormat = "%d",
-        .notSupported = "Threshold option not supported!",
-    },
-};
-
 constexpr PanelTraits kTraits{
     .className = "SharpenPDE",
+    .word = "sharpen",
     .interfaceFile = "SharpenPDE",
     .nameKey = "SharpenPanelName",
     .kind = KWOPDE_KIND_PREFIX ".sharpenkind",
-    .popUps = kPopUps,
-    .values = kValues,
-    .captions = {},
-    .keyOptions = 1,
     .panelViewEntry = "panelView:(%@)",
     .saving = nullptr,
     .updateUIEntry = "updateUI:",
@@ -71,6 +20,57 @@ constexpr PanelTraits kTraits{
 
 }  // namespace
 
-SharpenPDE::SharpenPDE() : PanelBase(kTraits) {}
+SharpenPDE::SharpenPDE()
+    : PanelBase({
+          .traits = kTraits,
+          .popUps = {{
+              .key = "sharpnessEnabled",
+              .isKey = true,
+              .popUp = {"enableFilterPopUp", &enableFilterPopUp},
+              .choices = enableFilterChoices,
+              .option = enableFilterOption,
+              .selection = enableFilterSelection,
+              .action = {"changeEnableFilterOption:", &SharpenPDE::changeEnableFilterOption},
+              .notSupported = "Enable filter option not supported!",
+              .disabling = "disabling enable filter",
+              .notFound = "Enable filter selection not found!",
+          }},
+          .values =
+              {
+                  {
+                      .key = "sharpnessAmount",
+                      .option = amountOption,
+                      .value = &amountValue,
+                      .field = {"amountLabel", &amountLabel},
+                      .slider = {"amountSlider", &amountSlider},
+                      .action = {"changeAmountOption:", &SharpenPDE::changeAmountOption},
+                      .summaryKey = "Amount",
+                      .summaryFormat = "%d %%",
+                      .notSupported = "Amount option not supported!",
+                  },
+                  {
+                      .key = "sharpnessRadius",
+                      .option = radiusOption,
+                      .value = &radiusValue,
+                      .field = {"radiusLabel", &radiusLabel},
+                      .slider = {"radiusSlider", &radiusSlider},
+                      .action = {"changeRadiusOption:", &SharpenPDE::changeRadiusOption},
+                      .summaryKey = "Radius",
+                      .summaryFormat = "%d",
+                      .notSupported = "Radius option not supported!",
+                  },
+                  {
+                      .key = "sharpnessThreshold",
+                      .option = thresholdOption,
+                      .value = &thresholdValue,
+                      .field = {"thresholdLabel", &thresholdLabel},
+                      .slider = {"thresholdSlider", &thresholdSlider},
+                      .action = {"changeThresholdOption:", &SharpenPDE::changeThresholdOption},
+                      .summaryKey = "Threshold",
+                      .summaryFormat = "%d",
+                      .notSupported = "Threshold option not supported!",
+                  },
+              },
+      }) {}
 
 }  // namespace kwopde

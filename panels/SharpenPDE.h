@@ -10,6 +10,12 @@ public:
   SharpenPDE();
   ~SharpenPDE() override { releaseChoices(); }
 
+  // The actions, each sent by the control of its option; the sender does not matter.
+  void changeEnableFilterOption(const Object *) { changeSelection(enableFilterSelection); }
+  void changeAmountOption(const Object *) { changeValue(amountValue); }
+  void changeRadiusOption(const Object *) { changeValue(radiusValue); }
+  void changeThresholdOption(const Object *) { changeValue(thresholdValue); }
+
   Outlet<PopUpButton> enableFilterPopUp;
   Outlet<TextField> amountLabel;
   Outlet<Slider> amountSlider;

@@ -1,5 +1,7 @@
 #include "platform/Bundle.h"
 
+#include <utility>
+
 namespace kwopde {
 
 namespace {
@@ -10,8 +12,8 @@ bool Bundle::loadNibNamed(std::string_view name, InterfaceOwner &owner) {
   return interfaceLoader && interfaceLoader->loadNibNamed(name, owner);
 }
 
-void Bundle::setInterfaceLoader(InterfaceLoader *loader) {
-  interfaceLoader = loader;
+InterfaceLoader *Bundle::setInterfaceLoader(InterfaceLoader *loader) {
+  return std::exchange(interfaceLoader, loader);
 }
 
 }  // namespace kwopde

@@ -24,9 +24,10 @@ public:
   /// every other control borrowed.
   virtual bool setOutlet(std::string_view outlet, const std::shared_ptr<View> &view) = 0;
 
-  /// Performs `action` ("changePrintQualityOption:"), sent by a control that the user worked.
-  /// False, and nothing done, when the owner has no such action.
-  virtual bool performAction(std::string_view action) = 0;
+  /// Performs `action` ("changePrintQualityOption:"), sent by `sender`, a control that the user
+  /// worked; null when nobody in particular sends it. False, and nothing done, when the owner has
+  /// no such action.
+  virtual bool performAction(std::string_view action, const Object *sender) = 0;
 };
 
 /// Loads interface files; an adapter has one.
@@ -58,8 +59,8 @@ public:
   /// belongs to the class, not to one bundle: a panel without a bundle has its controls too.
   static bool loadNibNamed(std::string_view name, InterfaceOwner &owner);
 
-  /// The loader to use from now on; borrowed. Null takes it away.
-  static void setInterfaceLoader(InterfaceLoader *loader);
+  /// Uses `loader` from now on; borrowed. Null takes it away. Returns the one before it.
+  static InterfaceLoader *setInterfaceLoader(InterfaceLoader *loader);
 };
 
 }  // namespace kwopde

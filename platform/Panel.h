@@ -28,27 +28,6 @@ namespace kwopde {
 /// An error that an operation could report; none of ours does.
 class Error;
 
-/// A control that a panel's interface file is to connect.
-struct PanelControl {
-  std::string_view outlet;  // "printQualityPopUp"
-  View *control;            // borrowed, valid as long as the panel's view; null while unconnected
-};
-
-/// An option that a panel handles.
-struct PanelOption {
-  enum class Kind { choice, integer, real };
-
-  std::string key;
-  Kind kind;
-  std::string_view slider;  // the outlet of its slider; empty when it has none
-};
-
-/// What a class of panels needs of a PPD.
-struct PanelRequirement {
-  std::string_view className;
-  std::vector<std::string> anyOf;  // keywords; without all of them the panel is refused
-};
-
 class Panel : public Object {
 public:
   /// The panel's view, loaded on the first call and owned by the panel. Null when its interface
@@ -86,14 +65,6 @@ public:
   /// Settings that are no PPD options: there are none, so both do nothing.
   virtual void getNonPPDSettingsFromPrintSettings() = 0;
   virtual void writeNonPPDSettingsToPrintSettings() = 0;
-
-  // For tools that drive or inspect a dialog; not traced.
-
-  /// Every option that the panel handles, whether the PPD has it or not, in the panel's order.
-  virtual std::vector<PanelOption> options() const = 0;
-
-  /// Every control that the panel knows, sorted by outlet.
-  virtual std::vector<PanelControl> controls() const = 0;
 };
 
 }  // namespace kwopde

@@ -47,15 +47,16 @@ public:
   /// A new principal object, not yet initialised; owned by the caller.
   virtual std::unique_ptr<PlugIn> makePlugIn() = 0;
 
-  /// What each class of panels needs, in the order of making; at most one of the media panels is
-  /// made. For tools that tell why a panel is missing.
-  virtual std::vector<PanelRequirement> requirements() const = 0;
-
-  /// Where the trace goes from now on; borrowed. Null stands for the module's own sink.
-  virtual void setLogSink(LogSink *sink) = 0;
+  /// Sends the trace to `sink` from now on; borrowed. Null stands for the module's own sink.
+  /// Returns the sink before it, null again for the module's own.
+  virtual LogSink *setLogSink(LogSink *sink) = 0;
 };
 
 }  // namespace kwopde
 
+/// The version of this contract. It changes whenever an interface in this folder does, and a host
+/// refuses a module that was built for another one.
+#define KWOPDE_CONTRACT_VERSION "2"
+
 /// The interface name under which a Qt module offers its `kwopde::PlugInModule`.
-#define KWOPDE_PLUGIN_MODULE_IID "org.kwopde.PlugInModule/1.0"
+#define KWOPDE_PLUGIN_MODULE_IID "org.kwopde.PlugInModule/" KWOPDE_CONTRACT_VERSION

@@ -18,12 +18,9 @@ public:
   const PanelList *PDEPanelsForType(const std::string *type,
                                     const std::shared_ptr<HostCallback> &withHostInfo) override;
 
-  /// What the classes of panels need, in the order of making.
-  static std::vector<PanelRequirement> requirements();
-
 private:
-  Bundle *pluginBundle_ = nullptr;  // the host's
-  std::shared_ptr<PanelList> PDEs_;
+  Bundle *pluginBundle = nullptr;  // the host's
+  std::shared_ptr<PanelList> PDEs;
 };
 
 }  // namespace kwopde

@@ -2,6 +2,7 @@
 #include <QLoggingCategory>
 #include <QObject>
 
+#include "panels/PanelClasses.h"
 #include "platform/PlugIn.h"
 #include "plugin/KWOPDEPlugin.h"
 #include "plugin/PDELogging.h"
@@ -26,19 +27,17 @@ public:
 
 }  // namespace
 
-class Module final : public QObject, public PlugInModule {
+class Module final : public QObject, public PlugInModule, public ModuleInspector {
   Q_OBJECT
   Q_PLUGIN_METADATA(IID KWOPDE_PLUGIN_MODULE_IID)
   Q_INTERFACES(kwopde::PlugInModule)
 
 public:
-  Module() {
-    setTraceSink(&log_);
-    Bundle::setInterfaceLoader(&loader_);
-  }
+  Module()
+      : sinkBefore_(setTraceSink(&log_)), loaderBefore_(Bundle::setInterfaceLoader(&loader_)) {}
   ~Module() override {
-    Bundle::setInterfaceLoader(nullptr);
-    setTraceSink(nullptr);
+    Bundle::setInterfaceLoader(loaderBefore_);
+    setTraceSink(sinkBefore_);
   }
 
   std::shared_ptr<Bundle> bundle() override {
@@ -46,14 +45,17 @@ public:
     return bundle_;
   }
   std::unique_ptr<PlugIn> makePlugIn() override { return std::make_unique<KWOPDEPlugIn>(); }
-  std::vector<PanelRequirement> requirements() const override {
-    return KWOPDEPlugIn::requirements();
+  std::vector<PanelRequirement> requirements() const override { return panelRequirements(); }
+  LogSink *setLogSink(LogSink *sink) override {
+    LogSink *const before = setTraceSink(sink ? sink : &log_);
+    return before == &log_ ? nullptr : before;
   }
-  void setLogSink(LogSink *sink) override { setTraceSink(sink ? sink : &log_); }
 
 private:
   QtLog log_;
   QtInterfaceLoader loader_{":/kwopde"};
+  LogSink *sinkBefore_;
+  InterfaceLoader *loaderBefore_;
   std::shared_ptr<Bundle> bundle_;
 };
 

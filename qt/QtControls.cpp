@@ -30,7 +30,7 @@ bool showsMnemonic(const QWidget &widget) {
 }  // namespace
 
 void QtPopUpButton::removeAllItems() {
-  items_.clear();
+  clear();
   if (widget_) widget_->clear();
 }
 
@@ -45,12 +45,7 @@ int QtPopUpButton::indexOfSelectedItem() const {
 void QtPopUpButton::addItem(MenuItem item) {
   if (!widget_) return;
   widget_->addItem(fromUtf8(item.title.value_or("")));
-  items_.push_back(std::move(item));
-}
-
-const MenuItem *QtPopUpButton::itemAtIndex(int index) const {
-  const auto i = static_cast<std::size_t>(index);
-  return index >= 0 && i < items_.size() ? &items_[i] : nullptr;
+  MenuItems::addItem(std::move(item));
 }
 
 double QtSlider::doubleValue() const {
@@ -99,19 +94,14 @@ TextField *QtPanelView::viewWithTag(int tag) {
 }
 
 std::shared_ptr<View> QtPanelView::control(QWidget *widget) {
-  const auto known = std::find_if(controls_.begin(), controls_.end(), [&](const auto &control) {
-    return control->nativeView() == widget;
+  return controls_.control(widget, [&]() -> std::shared_ptr<View> {
+    if (auto *comboBox = qobject_cast<QComboBox *>(widget))
+      return std::make_shared<QtPopUpButton>(comboBox);
+    if (auto *slider = qobject_cast<QSlider *>(widget)) return std::make_shared<QtSlider>(slider);
+    if (qobject_cast<QLineEdit *>(widget) || qobject_cast<QLabel *>(widget))
+      return std::make_shared<QtTextField>(widget);
+    return nullptr;
   });
-  if (known != controls_.end()) return *known;
-  std::shared_ptr<View> control;
-  if (auto *comboBox = qobject_cast<QComboBox *>(widget))
-    control = std::make_shared<QtPopUpButton>(comboBox);
-  else if (auto *slider = qobject_cast<QSlider *>(widget))
-    control = std::make_shared<QtSlider>(slider);
-  else if (qobject_cast<QLineEdit *>(widget) || qobject_cast<QLabel *>(widget))
-    control = std::make_shared<QtTextField>(widget);
-  if (control) controls_.push_back(control);
-  return control;
 }
 
 bool connectAction(QWidget *widget, std::function<void()> action) {

@@ -10,9 +10,10 @@
 #include <QWidget>
 #include <functional>
 #include <memory>
-#include <vector>
 
+#include "platform/ControlCache.h"
 #include "platform/Controls.h"
+#include "platform/MenuItems.h"
 
 namespace kwopde::qt {
 
@@ -29,13 +30,14 @@ public:
   void setEnabled(bool enabled) override {
     if (widget_) widget_->setEnabled(enabled);
   }
+  TextField *viewWithTag(int) override { return nullptr; }
   void *nativeView() const override { return static_cast<QWidget *>(widget_.data()); }
 
 protected:
   QPointer<Widget> widget_;
 };
 
-class QtPopUpButton final : public QtControl<PopUpButton, QComboBox>, public Menu {
+class QtPopUpButton final : public QtControl<PopUpButton, QComboBox>, public MenuItems {
 public:
   using QtControl::QtControl;
 
@@ -45,10 +47,6 @@ public:
   int indexOfSelectedItem() const override;
 
   void addItem(MenuItem item) override;
-  const MenuItem *itemAtIndex(int index) const override;
-
-private:
-  std::vector<MenuItem> items_;
 };
 
 /// A Qt slider counts in whole steps. The widget's dynamic property "step" is the number that one
@@ -86,7 +84,7 @@ public:
   std::shared_ptr<View> control(QWidget *widget);
 
 private:
-  std::vector<std::shared_ptr<View>> controls_;
+  ControlCache controls_;
 };
 
 /// Calls `action` whenever the user, and not code, works `widget`: a pick from a pop-up (of the

@@ -12,12 +12,13 @@ namespace {
 
 void connectControl(QtPanelView &view, QWidget *widget, InterfaceOwner &owner) {
   const QString name = widget->objectName();
-  if (const auto control = view.control(widget); control && !name.isEmpty())
-    owner.setOutlet(name.toStdString(), control);
+  const auto control = view.control(widget);
+  if (control && !name.isEmpty()) owner.setOutlet(name.toStdString(), control);
   const auto action = widget->property("action").toString().toStdString();
   if (action.empty()) return;
-  const auto perform = [&owner, action] {
-    if (!owner.performAction(action)) qWarning("No action %s", action.c_str());
+  // The control lives as long as its widget: the view has both.
+  const auto perform = [&owner, action, sender = control.get()] {
+    if (!owner.performAction(action, sender)) qWarning("No action %s", action.c_str());
   };
   if (!connectAction(widget, perform))
     qWarning("%s cannot send its action %s", qPrintable(name), action.c_str());

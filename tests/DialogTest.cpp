@@ -9,6 +9,7 @@
 #include <QTest>
 
 #include "host/Error.h"
+#include "host/TraceTo.h"
 #include "host/dialog/ModuleLoader.h"
 #include "host/dialog/PpdDialog.h"
 #include "tests/support/PanelFixture.h"
@@ -35,19 +36,12 @@ protected:
   void open(const std::string &sample) {
     session_ = std::make_shared<host::PpdSession>(host::PpdFile::open(samplePath(sample)));
     session_->addObserver(&requests_);
-    PlugInModule &module = host::loadModule();
-    module.setLogSink(&trace_);
-    dialog_.emplace(module, session_, "photo.png");
+    dialog_.emplace(module_, session_, "photo.png");
     tabs_ = dialog_->findChild<QTabWidget *>();
     dialog_->show();
     QApplication::setActiveWindow(&*dialog_);
     QApplication::processEvents();
   }
-  ~Dialog() override {
-    dialog_.reset();
-    host::loadModule().setLogSink(nullptr);
-  }
-
   template <class Widget>
   Widget &widget(const char *name) {
     auto *found = dialog_->findChild<Widget *>(name);
@@ -63,6 +57,8 @@ protected:
   }
 
   TraceRecorder trace_;
+  PlugInModule &module_ = host::loadModule();
+  const host::TraceTo tracing_{module_, &trace_};
   Requests requests_;
   std::shared_ptr<host::PpdSession> session_;
   std::optional<host::PpdDialog> dialog_;

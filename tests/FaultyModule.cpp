@@ -36,8 +36,7 @@ public:
   std::unique_ptr<PlugIn> makePlugIn() override {
     return std::make_unique<FaultyPlugIn>(sound_.makePlugIn());
   }
-  std::vector<PanelRequirement> requirements() const override { return sound_.requirements(); }
-  void setLogSink(LogSink *sink) override { sound_.setLogSink(sink); }
+  LogSink *setLogSink(LogSink *sink) override { return sound_.setLogSink(sink); }
 
 private:
   headless::Module sound_;

@@ -223,11 +223,11 @@ TEST_P(PanelContract, InterfaceFileConnectsEverything) {
     const std::string action = child->property("action").toString().toStdString();
     if (action.empty()) continue;
     ++actions;
-    EXPECT_TRUE(panel_->performAction(action)) << action;
+    EXPECT_TRUE(panel_->performAction(action, nullptr)) << action;
   }
   const bool isMedia = GetParam().nameKey == "MediaPanelName";
   EXPECT_EQ(actions, static_cast<int>(GetParam().keys.size()) - (isMedia ? 1 : 0));
-  EXPECT_FALSE(panel_->performAction("changeNothing:"));
+  EXPECT_FALSE(panel_->performAction("changeNothing:", nullptr));
 }
 
 TEST_P(PanelContract, BeforeItIsShownItTouchesNoControlAndSavesOnlyOnDemand) {
@@ -370,7 +370,7 @@ TEST_P(PanelContract, PickIsRequestedAndSnapsBackWhenRefused) {
   PopUpButton *popUp = nullptr;
   for (const PanelControl &control : panel_->controls())
     if (!popUp) popUp = dynamic_cast<PopUpButton *>(control.control);
-  host::QtUserInput user;
+  qt::QtUserInput user;
   user.pick(*popUp, 1);
   ASSERT_EQ(host_->requests.size(), 1u);
   EXPECT_TRUE(host_->requests[0].ends_with("=B"));
@@ -394,7 +394,7 @@ TEST_P(PanelContract, WithoutConstraintHandlingThePanelKeepsThePickItself) {
   PopUpButton *popUp = nullptr;
   for (const PanelControl &control : panel_->controls())
     if (!popUp) popUp = dynamic_cast<PopUpButton *>(control.control);
-  host::QtUserInput().pick(*popUp, 1);
+  qt::QtUserInput().pick(*popUp, 1);
   panel_->shouldHide();
   EXPECT_EQ(popUp->indexOfSelectedItem(), 1);
   EXPECT_EQ(panel_->summaryInfo()->entries().size(), GetParam().saved.size() + 1);

@@ -168,7 +168,8 @@ TEST(QtInterfaceLoader, WrongControlsAndActionsStayUnconnected) {
   EXPECT_TRUE(on.panel->printFinishPopUp);
   on.user.pick(*on.panel->printFinishPopUp.get(), 1);
   EXPECT_THAT(on.host->requests, testing::IsEmpty());
-  EXPECT_TRUE(on.panel->performAction("changePrintQualityOption:"));  // its outlet is missing
+  EXPECT_TRUE(
+      on.panel->performAction("changePrintQualityOption:", nullptr));  // its outlet is missing
   EXPECT_THAT(on.host->requests, testing::ElementsAre("printQuality=nil"));
 }
 

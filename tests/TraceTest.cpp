@@ -22,7 +22,7 @@ private:
 };
 
 /// What one free line reads for these arguments.
-std::string expanded(std::string_view format, std::initializer_list<TraceArgument> arguments,
+std::string expanded(std::string_view format, std::initializer_list<PrintfArgument> arguments,
                      const Object *self = nullptr) {
   TraceRecorder trace;
   PDELog(self, format, arguments);

@@ -5,6 +5,7 @@
 #include <QWhatsThis>
 
 #include "host/dialog/SummaryPage.h"
+#include "platform/PanelInspector.h"
 
 namespace kwopde::host {
 
@@ -15,18 +16,18 @@ QString titleOf(Panel &panel) {
   return name ? QString::fromStdString(*name) : QString();
 }
 
-/// "org.kwopde.mediakind" gives "media".
-QString wordFor(std::string_view kind) {
-  kind.remove_prefix(kind.rfind('.') + 1);
-  if (kind.ends_with("kind")) kind.remove_suffix(4);
-  return QString::fromUtf8(kind.data(), static_cast<qsizetype>(kind.size()));
+/// Returns a name for the page of `panel` that is the same in every language.
+QString nameOf(Panel &panel) {
+  std::string_view name = wordOf(panel);
+  if (name.empty()) name = panel.panelKind();
+  return QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
 }
 
 }  // namespace
 
 PanelPage::PanelPage(Panel &panel) : panel_(panel) {
   setWindowTitle(titleOf(panel));
-  setObjectName(wordFor(panel.panelKind()));
+  setObjectName(nameOf(panel));
 }
 
 void PanelPage::showHelp() {
@@ -64,12 +65,8 @@ PanelPages::PanelPages(PlugInModule &module, std::shared_ptr<PpdSession> session
     : QObject(parent),
       session_(std::move(session)),
       notices_(*session_),
-      bundle_(module.bundle()),
-      plugIn_(module.makePlugIn()) {
-  plugIn_->initWithBundle(bundle_.get());
-  const std::string type(kPrinterModuleTypeIDStr);
-  const PanelList *panels = plugIn_->PDEPanelsForType(&type, session_);
-  session_->setPanels(panels);
+      extension_(module, session_) {
+  const PanelList *panels = extension_.open();
   if (!panels) return;
   for (const auto &panel : *panels) {
     panel->restoreValuesAndReturnError(nullptr);
@@ -81,7 +78,6 @@ PanelPages::PanelPages(PlugInModule &module, std::shared_ptr<PpdSession> session
 
 PanelPages::~PanelPages() {
   qDeleteAll(pages());
-  session_->setPanels(nullptr);
 }
 
 QList<Page *> PanelPages::pages() const {

@@ -6,6 +6,7 @@
 #include <QPointer>
 #include <memory>
 
+#include "host/Extension.h"
 #include "host/PpdSession.h"
 #include "host/dialog/Notices.h"
 #include "host/dialog/Page.h"
@@ -60,8 +61,7 @@ public:
 private:
   std::shared_ptr<PpdSession> session_;
   Notices notices_;
-  std::shared_ptr<Bundle> bundle_;
-  std::unique_ptr<PlugIn> plugIn_;
+  Extension extension_;
   QList<QPointer<PanelPage>> panelPages_;
   QPointer<Page> summaryPage_;
 };

@@ -7,8 +7,12 @@
 #include <optional>
 #include <vector>
 
+#include "host/Extension.h"
+#include "host/PanelCalls.h"
 #include "host/PpdSession.h"
+#include "host/TraceTo.h"
 #include "host/validator/TraceDepth.h"
+#include "platform/PanelInspector.h"
 
 namespace kwopde::host {
 
@@ -50,100 +54,84 @@ public:
   explicit Probe(const Subject &subject) : Probe(subject, subject.ppd) {}
   Probe(const Subject &subject, const std::string &ppd)
       : subject_(subject),
+        tracing_(subject.module, &trace),
         host(std::make_shared<ProbeHost>(ppd)),
-        bundle(subject.module.bundle()),
-        plugIn(subject.module.makePlugIn()) {
-    subject.module.setLogSink(&trace);
-  }
-  Probe(const Probe &) = delete;
-  Probe &operator=(const Probe &) = delete;
-  ~Probe() {
-    plugIn.reset();
-    subject_.module.setLogSink(nullptr);
-  }
+        extension(std::in_place, subject.module, host, host->session) {}
 
+  /// Opens the extension. Throws `NothingToCheck` when it makes no panels.
   const PanelList &panels() {
-    plugIn->initWithBundle(bundle.get());
-    const PanelList *list = ask();
-    expect(list && !list->empty(), "the plug-in makes no panels for a PPD with all their options");
+    const PanelList *list = extension->open();
+    if (!list || list->empty())
+      throw NothingToCheck(fmt::format("the module makes no panels for {}", subject_.ppd));
     return *list;
   }
+
+  /// Asks for the panels of a printer once more.
   const PanelList *ask() {
     const std::string type(kPrinterModuleTypeIDStr);
-    return plugIn->PDEPanelsForType(&type, host);
+    return extension->ask(&type);
   }
+
+  Bundle *bundle() const { return extension->bundle(); }
+  long bundleCount() const { return subject_.module.bundle().use_count(); }
 
 private:
   const Subject &subject_;
 
 public:
   TraceDepth trace;
+
+private:
+  TraceTo tracing_;
+
+public:
   std::shared_ptr<ProbeHost> host;
-  std::shared_ptr<Bundle> bundle;
-  std::unique_ptr<PlugIn> plugIn;
+  std::optional<Extension> extension;
 };
 
-struct Operation {
-  std::string_view name;
-  void (*call)(Panel &panel);
-};
+/// Words for the operations that take some: a key and a choice.
+const std::vector<Word> kWords{Word(), Word("pageScale"), Word("85")};
 
-const std::string kKey = "pageScale";
-const std::string kChoice = "85";
-
-constexpr Operation kOperations[] = {
-    {"panelView", [](Panel &p) { p.panelView(); }},
-    {"panelName", [](Panel &p) { p.panelName(); }},
-    {"panelKind", [](Panel &p) { p.panelKind(); }},
-    {"supportedPPDOptionKeys", [](Panel &p) { p.supportedPPDOptionKeys(); }},
-    {"willShow", [](Panel &p) { p.willShow(); }},
-    {"shouldHide", [](Panel &p) { expect(p.shouldHide(), "shouldHide answers no"); }},
-    {"shouldPrint", [](Panel &p) { expect(p.shouldPrint(), "shouldPrint answers no"); }},
-    {"shouldShowHelp", [](Panel &p) { expect(p.shouldShowHelp(), "shouldShowHelp answers no"); }},
-    {"PPDOptionKeyValueDidChange", [](Panel &p) { p.PPDOptionKeyValueDidChange(&kKey, &kChoice); }},
-    {"restoreValuesAndReturnError",
-     [](Panel &p) {
-       expect(p.restoreValuesAndReturnError(nullptr), "restoreValuesAndReturnError answers no");
-     }},
-    {"saveValuesAndReturnError",
-     [](Panel &p) {
-       expect(p.saveValuesAndReturnError(nullptr), "saveValuesAndReturnError answers no");
-     }},
-    {"summaryInfo", [](Panel &p) { expect(p.summaryInfo() != nullptr, "summaryInfo is null"); }},
-    {"getNonPPDSettingsFromPrintSettings",
-     [](Panel &p) { p.getNonPPDSettingsFromPrintSettings(); }},
-    {"writeNonPPDSettingsToPrintSettings",
-     [](Panel &p) { p.writeNonPPDSettingsToPrintSettings(); }},
-};
-
-void callAndFollow(Probe &probe, Panel &panel, const Operation &operation) {
-  operation.call(panel);
-  expect(probe.trace.depth() == 0,
-         fmt::format("{} {} leaves the trace at depth {}", panel.className(), operation.name,
-                     probe.trace.depth()));
+void callAndFollow(Probe &probe, Panel &panel, const PanelCall &call) {
+  const std::string result = call.call(panel, kWords);
+  expect(
+      call.result.empty() || result == call.result,
+      fmt::format("{} {} answers {}, not {}", panel.className(), call.name, result, call.result));
+  expect(probe.trace.depth() == 0, fmt::format("{} {} leaves the trace at depth {}",
+                                               panel.className(), call.name, probe.trace.depth()));
 }
 
-/// Every operation in the order of the table and backwards, each twice.
+/// Calls every operation in the order of the contract and backwards, each twice.
 void callAll(Probe &probe, Panel &panel) {
-  for (const Operation &operation : kOperations)
-    for (int twice = 0; twice < 2; ++twice) callAndFollow(probe, panel, operation);
-  std::for_each(std::rbegin(kOperations), std::rend(kOperations),
-                [&](const Operation &operation) { callAndFollow(probe, panel, operation); });
+  const auto calls = panelCalls();
+  for (const PanelCall &call : calls)
+    for (int twice = 0; twice < 2; ++twice) callAndFollow(probe, panel, call);
+  std::for_each(calls.rbegin(), calls.rend(),
+                [&](const PanelCall &call) { callAndFollow(probe, panel, call); });
 }
 
-/// Works every control of a shown panel.
-void workControls(const Subject &subject, Panel &panel) {
-  for (const PanelControl &control : panel.controls()) {
+/// Works every control of the panel; returns how many took it.
+int workControls(const Subject &subject, Panel &panel) {
+  int worked = 0;
+  for (const PanelControl &control : controlsOf(panel)) {
+    bool took = false;
     if (auto *popUp = dynamic_cast<PopUpButton *>(control.control))
       for (int i = 0; popUp->menu() && popUp->menu()->itemAtIndex(i); ++i)
-        subject.user.pick(*popUp, i);
+        took |= subject.user.pick(*popUp, i);
     if (auto *slider = dynamic_cast<Slider *>(control.control))
       for (const double value : {slider->minValue(), 0.5, slider->maxValue(), 1e300})
-        subject.user.slide(*slider, value);
+        took |= subject.user.slide(*slider, value);
     if (auto *field = dynamic_cast<TextField *>(control.control))
       for (const char *text : {"", "12", "-99999999999", "%n%s%@", "\xc3\xa9"})
-        subject.user.type(*field, text);
+        took |= subject.user.type(*field, text);
+    worked += took ? 1 : 0;
   }
+  return worked;
+}
+
+/// Throws `NothingToCheck` when no control of any panel was worked.
+void expectWorked(int controls) {
+  if (controls == 0) throw NothingToCheck("no panel of the module tells of a control to work");
 }
 
 void show(Panel &panel) {
@@ -156,10 +144,9 @@ constexpr Check kChecks[] = {
     {"plugin.initialised-twice", "initWithBundle answers yes, again and without a bundle too",
      [](const Subject &subject) {
        Probe probe(subject);
-       for (Bundle *bundle :
-            {probe.bundle.get(), probe.bundle.get(), static_cast<Bundle *>(nullptr)})
-         expect(probe.plugIn->initWithBundle(bundle), "initWithBundle answers no");
-       expect(probe.ask() != nullptr, "a plug-in without a bundle makes no panels");
+       for (Bundle *bundle : {probe.bundle(), probe.bundle(), static_cast<Bundle *>(nullptr)})
+         expect(probe.extension->plugIn().initWithBundle(bundle), "initWithBundle answers no");
+       if (!probe.ask()) throw NothingToCheck("a plug-in without a bundle makes no panels");
      }},
     {"plugin.other-types",
      "every other type, and none, yields an empty list and no look at the PPD",
@@ -167,7 +154,7 @@ constexpr Check kChecks[] = {
        Probe probe(subject);
        const std::string other = "other";
        for (const std::string *type : {&other, static_cast<const std::string *>(nullptr)}) {
-         const PanelList *list = probe.plugIn->PDEPanelsForType(type, probe.host);
+         const PanelList *list = probe.extension->ask(type);
          expect(list && list->empty(), "another type yields something else than an empty list");
        }
        expect(probe.host->ppdFileCalls == 0, "another type looks at the PPD");
@@ -176,13 +163,14 @@ constexpr Check kChecks[] = {
      [](const Subject &subject) {
        Probe probe(subject);
        const std::string type(kPrinterModuleTypeIDStr);
-       expect(!probe.plugIn->PDEPanelsForType(&type, nullptr), "there are panels without a host");
+       expect(!probe.extension->plugIn().PDEPanelsForType(&type, nullptr),
+              "there are panels without a host");
      }},
     {"plugin.no-options", "a PPD without the options yields no list, and the host is let go",
      [](const Subject &subject) {
        Probe probe(subject, subject.emptyPpd);
        expect(probe.ask() == nullptr, "there is a list of panels");
-       expect(probe.host.use_count() == 1, "a refused panel keeps the host");
+       expect(probe.host.use_count() == 2, "a refused panel keeps the host");
      }},
     {"plugin.asked-twice", "the panels of an earlier list stay usable",
      [](const Subject &subject) {
@@ -195,20 +183,21 @@ constexpr Check kChecks[] = {
      [](const Subject &subject) {
        Probe probe(subject);
        const auto count = static_cast<long>(probe.panels().size());
-       expect(probe.host.use_count() == 1 + count, "a panel does not hold the host exactly once");
+       // The probe and the extension hold it too.
+       expect(probe.host.use_count() == 2 + count, "a panel does not hold the host exactly once");
        for (const auto &panel : *probe.ask()) show(*panel);
-       probe.plugIn.reset();
+       probe.extension.reset();
        // The panels of the first of two lists are kept for good.
        expect(probe.host.use_count() == 1 + count, "the host is not let go exactly once");
      }},
     {"plugin.bundle-kept", "a panel holds the bundle once, and for good",
      [](const Subject &subject) {
        Probe probe(subject);
-       const auto before = probe.bundle.use_count();
+       const long before = probe.bundleCount();
        const auto count = static_cast<long>(probe.panels().size());
-       expect(probe.bundle.use_count() == before + count, "a panel does not hold the bundle once");
-       probe.plugIn.reset();
-       expect(probe.bundle.use_count() == before + count, "a panel lets the bundle go");
+       expect(probe.bundleCount() == before + count, "a panel does not hold the bundle once");
+       probe.extension.reset();
+       expect(probe.bundleCount() == before - 1 + count, "a panel lets the bundle go");
      }},
     {"panel.kinds-differ", "every panel has a kind of its own",
      [](const Subject &subject) {
@@ -246,12 +235,14 @@ constexpr Check kChecks[] = {
     {"panel.any-order", "shown, a panel takes every call in any order, twice",
      [](const Subject &subject) {
        Probe probe(subject);
+       int worked = 0;
        for (const auto &panel : probe.panels()) {
          show(*panel);
          callAll(probe, *panel);
-         workControls(subject, *panel);
+         worked += workControls(subject, *panel);
          callAll(probe, *panel);
        }
+       expectWorked(worked);
      }},
     {"panel.odd-notices", "a notice with nulls, foreign keys or nonsense is taken",
      [](const Subject &subject) {
@@ -260,7 +251,7 @@ constexpr Check kChecks[] = {
        for (const auto &panel : probe.panels()) {
          show(*panel);
          for (const std::string *key :
-              {static_cast<const std::string *>(nullptr), &nonsense, &kKey})
+              {static_cast<const std::string *>(nullptr), &nonsense, &*kWords[1]})
            for (const std::string *choice : {static_cast<const std::string *>(nullptr), &nonsense})
              panel->PPDOptionKeyValueDidChange(key, choice);
          callAll(probe, *panel);
@@ -270,32 +261,36 @@ constexpr Check kChecks[] = {
      [](const Subject &subject) {
        Probe probe(subject);
        probe.host->answersRequests = false;
+       int worked = 0;
        for (const auto &panel : probe.panels()) {
          show(*panel);
-         workControls(subject, *panel);
+         worked += workControls(subject, *panel);
          callAll(probe, *panel);
        }
+       expectWorked(worked);
        expect(probe.host->requests == 0, "a panel asks a host that answers nothing");
      }},
     {"host.refuses-all", "after a refused pick, a pop-up shows what is marked",
      [](const Subject &subject) {
        Probe probe(subject);
+       int worked = 0;
        for (const auto &panel : probe.panels()) {
          show(*panel);
          const auto shown = [&] {
            std::vector<int> indexes;
-           for (const PanelControl &control : panel->controls())
+           for (const PanelControl &control : controlsOf(*panel))
              if (auto *popUp = dynamic_cast<PopUpButton *>(control.control))
                indexes.push_back(popUp->indexOfSelectedItem());
            return indexes;
          };
          const auto before = shown();
          probe.host->session.refuseAll(true);
-         workControls(subject, *panel);
+         worked += workControls(subject, *panel);
          probe.host->session.refuseAll(false);
          expect(shown() == before,
                 fmt::format("a pop-up of {} keeps a refused pick", panel->className()));
        }
+       expectWorked(worked);
      }},
     {"host.announces-inside", "an announcement from inside a request is taken",
      [](const Subject &subject) {
@@ -303,15 +298,17 @@ constexpr Check kChecks[] = {
        const PanelList &panels = probe.panels();
        probe.host->duringRequest = [&] {
          for (const auto &panel : panels) {
-           panel->PPDOptionKeyValueDidChange(&kKey, &kChoice);
+           panel->PPDOptionKeyValueDidChange(&*kWords[1], &*kWords[2]);
            panel->summaryInfo();
          }
        };
+       int worked = 0;
        for (const auto &panel : panels) {
          show(*panel);
-         workControls(subject, *panel);
+         worked += workControls(subject, *panel);
          callAll(probe, *panel);
        }
+       expectWorked(worked);
      }},
 };
 

@@ -6,8 +6,8 @@
 #include <string>
 #include <string_view>
 
-#include "host/UserInput.h"
 #include "platform/PlugIn.h"
+#include "platform/UserInput.h"
 
 namespace kwopde::host {
 
@@ -17,21 +17,29 @@ public:
   using std::runtime_error::runtime_error;
 };
 
+/// Why a check has nothing to say about a module: there is nothing of the module's to look at.
+class NothingToCheck : public std::runtime_error {
+public:
+  using std::runtime_error::runtime_error;
+};
+
 /// What a check is run on. All of it is borrowed.
 struct Subject {
   PlugInModule &module;
   UserInput &user;
-  std::string ppd;       // a file with every option of every panel
+  std::string ppd;       // a file with the options of the module's panels
   std::string emptyPpd;  // a file with none
 };
 
 struct Check {
   std::string_view name;
   std::string_view promise;  // what holds when it passes
+
+  /// Throws `CheckFailed` when the promise does not hold, and `NothingToCheck` when nothing tells.
   void (*run)(const Subject &subject);
 };
 
-/// Every check, in a fixed order.
+/// Returns every check, in a fixed order.
 std::span<const Check> checks();
 
 }  // namespace kwopde::host

@@ -4,18 +4,40 @@
 #include <cstdint>
 #include <ostream>
 #include <string>
+#include <vector>
 
 #include "host/validator/Checks.h"
 
 namespace kwopde::host {
 
-/// The commands of the session that `seed` stands for; the same on every machine.
-std::string randomScript(std::uint64_t seed);
+/// What there is to call and to work: the panels that a module makes for a PPD, as they tell it
+/// themselves.
+struct Vocabulary {
+  struct PopUp {
+    std::string name;  // "media.printQualityPopUp"
+    int items;
+  };
+  struct Option {
+    std::string key;
+    std::vector<std::string> choices;  // keywords
+  };
+  std::vector<std::string> panels;  // "media"
+  std::vector<PopUp> popUps;
+  std::vector<std::string> sliders;
+  std::vector<std::string> fields;
+  std::vector<Option> options;
+};
 
-/// Runs such a session on `subject`, command by command, and holds after every one that the trace
-/// is back at depth 0 and that every pop-up shows an item it has; after a pick, that the panel's
-/// pop-ups show what is marked. Every command goes to `log` before it is run. Returns their number;
-/// throws `CheckFailed`.
+/// Asks the panels that the module makes for the subject's PPD. Throws `NothingToCheck` when there
+/// are none, or none that tells.
+Vocabulary vocabularyOf(const Subject &subject);
+
+/// Returns the commands of the session that `seed` stands for; the same on every machine.
+std::string randomScript(const Vocabulary &vocabulary, std::uint64_t seed);
+
+/// Runs such a session on `subject`, command by command. After every one the trace is back at depth
+/// 0 and every pop-up shows an item it has; after a pick, the pop-up shows what is marked. Every
+/// command goes to `log` before it is run. Returns how many could be run; throws `CheckFailed`.
 int runSession(const Subject &subject, const std::string &script, std::ostream &log);
 
 }  // namespace kwopde::host

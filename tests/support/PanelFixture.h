@@ -8,12 +8,12 @@
 #include <QLineEdit>
 #include <QSlider>
 
-#include "host/dialog/QtUserInput.h"
 #include "panels/ColorPDE.h"
 #include "panels/Media7032PDE.h"
 #include "panels/MediaPDE.h"
 #include "panels/SharpenPDE.h"
 #include "qt/QtInterfaceLoader.h"
+#include "qt/QtUserInput.h"
 #include "tests/support/RecordingHost.h"
 
 namespace kwopde::test {
@@ -33,15 +33,14 @@ public:
 class InterfaceFiles {
 public:
   explicit InterfaceFiles(const QString &folder = KWOPDE_SOURCE_FOLDER "/resources/qt")
-      : loader_(folder) {
-    Bundle::setInterfaceLoader(&loader_);
-  }
+      : loader_(folder), before_(Bundle::setInterfaceLoader(&loader_)) {}
   InterfaceFiles(const InterfaceFiles &) = delete;
   InterfaceFiles &operator=(const InterfaceFiles &) = delete;
-  ~InterfaceFiles() { Bundle::setInterfaceLoader(nullptr); }
+  ~InterfaceFiles() { Bundle::setInterfaceLoader(before_); }
 
 private:
   qt::QtInterfaceLoader loader_;
+  InterfaceLoader *before_;
 };
 
 /// A panel of class `P`; null when it was refused.
@@ -76,7 +75,7 @@ struct PanelOn {
   std::shared_ptr<RecordingHost> host;
   std::shared_ptr<CountingBundle> bundle = std::make_shared<CountingBundle>();
   std::shared_ptr<P> panel;
-  host::QtUserInput user;
+  qt::QtUserInput user;
 };
 
 }  // namespace kwopde::test

@@ -17,12 +17,10 @@ bool RecordingHost::willChangePPDOptionKeyValue(const std::string *key, const st
   return true;
 }
 
-TraceRecorder::TraceRecorder() {
-  setTraceSink(this);
-}
+TraceRecorder::TraceRecorder() : before_(setTraceSink(this)) {}
 
 TraceRecorder::~TraceRecorder() {
-  setTraceSink(nullptr);
+  setTraceSink(before_);
 }
 
 std::vector<std::string> TraceRecorder::take() {

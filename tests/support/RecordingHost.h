@@ -45,6 +45,7 @@ public:
   std::vector<std::string> takeMessages();
 
 private:
+  LogSink *before_;
   std::vector<std::string> lines_;
 };
 

@@ -5,7 +5,7 @@
 
 #include "platform/Controls.h"
 
-namespace kwopde::host {
+namespace kwopde {
 
 /// Every operation works the control as a person does, so that it sends its action; false, with
 /// nothing done, when the toolkit knows no such control.
@@ -26,4 +26,4 @@ public:
   virtual bool type(TextField &field, const std::string &text) = 0;
 };
 
-}  // namespace kwopde::host
+}  // namespace kwopde

@@ -10,16 +10,22 @@
 
 namespace kwopde::host {
 
-/// The number that all of `text` is; none when it is something else. The locale has no say.
+/// Returns the number that all of `text` is; none when it is something else. The locale has no say.
 std::optional<double> wholeNumber(std::string_view text);
+
+/// The keyword of the choice that stands for an option's custom values.
+inline constexpr const char *kCustom = "Custom";
+
+/// Returns "85" for the keyword "Custom.85"; none when the keyword is not of a custom value.
+std::optional<std::string_view> customNumber(std::string_view keyword);
 
 /// What to mark for a request.
 struct MarkableChoice {
   ppd_choice_t *choice;  // the PPD's
   std::string number;    // the custom number; empty when the choice is listed
 
-  /// As the CUPS library marks it and a job carries it: "85", "Custom.85".
-  std::string keyword() const { return number.empty() ? choice->choice : "Custom." + number; }
+  /// Returns the keyword that the CUPS library marks and a job carries: "85", "Custom.85".
+  std::string keyword() const;
 };
 
 /// The numbers that an option takes beyond the listed ones, both ends included.
@@ -29,12 +35,12 @@ struct CustomLimits {
   bool integral;
 };
 
-/// The limits of `option`'s one custom parameter; none when it has no such parameter of the types
-/// int, real or points.
+/// Returns the limits of `option`'s one custom parameter; none when it has no such parameter of the
+/// types int, real or points.
 std::optional<CustomLimits> customLimits(ppd_file_t *ppd, const ppd_option_t &option);
 
-/// What `requested` asks to mark; none when `option` neither lists it nor takes it as a custom
-/// value. "Custom.85" asks for the custom value 85.
+/// Returns what `requested` asks to mark; none when `option` neither lists it nor takes it as a
+/// custom value. "Custom.85" asks for the custom value 85.
 std::optional<MarkableChoice> findMarkable(ppd_file_t *ppd, ppd_option_t &option,
                                            const std::string &requested);
 

@@ -1,9 +1,9 @@
 // A user's doing on Qt widgets.
 #pragma once
 
-#include "host/UserInput.h"
+#include "platform/UserInput.h"
 
-namespace kwopde::host {
+namespace kwopde::qt {
 
 class QtUserInput final : public UserInput {
 public:
@@ -12,4 +12,4 @@ public:
   bool type(TextField &field, const std::string &text) override;
 };
 
-}  // namespace kwopde::host
+}  // namespace kwopde::qt

@@ -1,10 +1,10 @@
-#include "host/dialog/QtUserInput.h"
+#include "qt/QtUserInput.h"
 
 #include <QComboBox>
 #include <QLineEdit>
 #include <QSlider>
 
-namespace kwopde::host {
+namespace kwopde::qt {
 
 namespace {
 
@@ -40,4 +40,4 @@ bool QtUserInput::type(TextField &field, const std::string &text) {
   return true;
 }
 
-}  // namespace kwopde::host
+}  // namespace kwopde::qt

@@ -1,4 +1,4 @@
-#include "host/NumericChoice.h"
+#include "host/MarkableChoice.h"
 
 #include <fmt/format.h>
 
@@ -28,6 +28,15 @@ std::optional<double> wholeNumber(std::string_view text) {
   return number;
 }
 
+std::optional<std::string_view> customNumber(std::string_view keyword) {
+  if (!keyword.starts_with(kCustomPrefix)) return {};
+  return keyword.substr(kCustomPrefix.size());
+}
+
+std::string MarkableChoice::keyword() const {
+  return number.empty() ? choice->choice : fmt::format("{}{}", kCustomPrefix, number);
+}
+
 std::optional<CustomLimits> customLimits(ppd_file_t *ppd, const ppd_option_t &option) {
   ppd_coption_t *custom = ppdFindCustomOption(ppd, option.keyword);
   if (!custom || cupsArrayCount(custom->params) != 1) return {};
@@ -48,18 +57,17 @@ std::optional<CustomLimits> customLimits(ppd_file_t *ppd, const ppd_option_t &op
 
 std::optional<MarkableChoice> findMarkable(ppd_file_t *ppd, ppd_option_t &option,
                                            const std::string &requested) {
-  std::string_view text = requested;
-  const bool asksForCustom = text.starts_with(kCustomPrefix);
-  if (asksForCustom) text.remove_prefix(kCustomPrefix.size());
+  const auto asked = customNumber(requested);
+  const std::string_view text = asked.value_or(requested);
   const auto number = wholeNumber(text);
-  if (!asksForCustom) {
+  if (!asked) {
     if (ppd_choice_t *listed = ppdFindChoice(&option, requested.c_str()))
       return MarkableChoice{listed, {}};
     for (int i = 0; number && i < option.num_choices; ++i)
       if (wholeNumber(option.choices[i].choice) == number)
         return MarkableChoice{&option.choices[i], {}};
   }
-  ppd_choice_t *const custom = ppdFindChoice(&option, "Custom");
+  ppd_choice_t *const custom = ppdFindChoice(&option, kCustom);
   const auto limits = customLimits(ppd, option);
   if (!custom || !limits || !number) return {};
   // The library keeps limits as float, so that is how the number meets them.

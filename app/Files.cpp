@@ -1,0 +1,32 @@
+#include "app/Files.h"
+
+#include <fmt/format.h>
+
+#include <cerrno>
+#include <cstring>
+#include <iostream>
+
+#include "host/Error.h"
+
+namespace kwopde::app {
+
+std::ifstream openReadable(const std::string &path) {
+  errno = 0;
+  std::ifstream file(path);
+  file.peek();
+  if (file.bad() || !file.is_open())
+    throw host::Error(fmt::format("{}: {}", path, std::strerror(errno ? errno : EIO)));
+  file.clear();
+  return file;
+}
+
+void expectReadable(const std::vector<std::string> &paths) {
+  for (const std::string &path : paths) openReadable(path);
+}
+
+ScriptSource::ScriptSource(const std::string &name) {
+  if (name != "-") file_ = openReadable(name);
+  stream_ = name == "-" ? &std::cin : &file_;
+}
+
+}  // namespace kwopde::app

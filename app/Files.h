@@ -1,0 +1,28 @@
+// Files that a command is given.
+#pragma once
+
+#include <fstream>
+#include <istream>
+#include <string>
+#include <vector>
+
+namespace kwopde::app {
+
+/// Opens the file at `path` and reads a first byte. Throws `host::Error` when that fails.
+std::ifstream openReadable(const std::string &path);
+
+/// Throws `host::Error` for the first of `paths` that cannot be read.
+void expectReadable(const std::vector<std::string> &paths);
+
+/// A script's commands: a file, or standard input for "-".
+class ScriptSource {
+public:
+  explicit ScriptSource(const std::string &name);
+  std::istream &stream() { return *stream_; }
+
+private:
+  std::ifstream file_;
+  std::istream *stream_;
+};
+
+}  // namespace kwopde::app

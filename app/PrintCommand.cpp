@@ -1,0 +1,115 @@
+#include <fmt/format.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <csignal>
+#include <filesystem>
+#include <iostream>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "app/Command.h"
+#include "app/Files.h"
+#include "app/JobReport.h"
+#include "app/TraceOption.h"
+#include "host/Error.h"
+#include "host/PpdSession.h"
+#include "host/PrintJob.h"
+#include "host/PrintQueue.h"
+#include "host/ScriptRunner.h"
+#include "host/TraceTo.h"
+#include "host/dialog/ModuleLoader.h"
+#include "qt/QtUserInput.h"
+
+namespace kwopde::app {
+
+namespace {
+
+volatile std::sig_atomic_t interrupted = 0;
+
+struct PrintOptions {
+  std::string printer;               // empty: the default queue
+  std::string script;                // empty: none; "-": standard input
+  std::vector<std::string> options;  // KEY=CHOICE
+  std::string title;                 // empty: the first document's name
+  std::vector<std::string> documents;
+  std::string trace = "syslog";
+};
+
+/// Marks "KEY=CHOICE" in the PPD, or passes it on as an attribute of the job.
+void apply(const std::string &option, host::PpdSession &session, host::PrintJob &job) {
+  const auto equals = option.find('=');
+  if (equals == 0 || equals == option.npos)
+    throw host::Error(fmt::format("-o {}: not of the form KEY=CHOICE", option));
+  const std::string key = option.substr(0, equals);
+  const std::string choice = option.substr(equals + 1);
+  if (!ppdFindOption(session.ppdFile(), key.c_str()))
+    job.options.push_back({key, choice});
+  else if (!session.willChangePPDOptionKeyValue(&key, &choice))
+    throw host::Error(fmt::format("-o {}: {} cannot be {} on this printer", option,
+                                  session.ppd().textOf(key), choice));
+}
+
+int print(const PrintOptions &options) {
+  const host::PrintQueue queue(options.printer);
+  const auto session = queue.openSession();
+  host::PrintJob job{queue.name(), options.title, options.documents, {}};
+  expectReadable(job.documents);
+  if (job.title.empty()) job.title = std::filesystem::path(job.documents.front()).filename();
+  for (const std::string &option : options.options) apply(option, *session, job);
+
+  if (!options.script.empty()) {
+    ScriptSource script(options.script);
+    PlugInModule &module = host::loadModule();
+    const auto sink = openTrace(options.trace);
+    const host::TraceTo trace(module, sink.get());
+    qt::QtUserInput user;
+    std::ostream transcript(nullptr);  // discarded: print tells of the job only
+    if (!host::ScriptRunner(module, session, user, transcript, std::cerr).run(script.stream()))
+      return kNotDone;
+  }
+
+  for (const auto &change : session->changedChoices()) job.options.push_back(change);
+  std::signal(SIGINT, [](int) { interrupted = 1; });
+  const bool showsProgress = isatty(STDERR_FILENO) != 0;
+  const auto id = host::send(job, [&](long long sent, long long total) {
+    if (showsProgress) fmt::print(stderr, "\rsending: {} %", sent * 100 / std::max(total, 1LL));
+    return interrupted == 0;
+  });
+  if (showsProgress) fmt::print(stderr, "\n");
+  if (!id) {
+    fmt::print(stderr, "kwopde: cancelled; the printer has no job\n");
+    return kNotDone;
+  }
+  printChoices(job.options);
+  reportSent(job, *id);
+  return kDone;
+}
+
+}  // namespace
+
+Command addPrintCommand(CLI::App &commandLine) {
+  const auto options = std::make_shared<PrintOptions>();
+  CLI::App *command = commandLine.add_subcommand(
+      "print", "Sends documents to a queue as one job, without a dialog");
+  command->add_option("--printer", options->printer, "The queue; else the default one")
+      ->type_name("QUEUE");
+  command
+      ->add_option("--script", options->script,
+                   "Sets the panels by this script first; - is standard input")
+      ->type_name("SCRIPT");
+  command
+      ->add_option("-o", options->options,
+                   "An option of the printer, or an attribute of the job such as copies=2")
+      ->type_name("KEY=CHOICE")
+      ->allow_extra_args(false);
+  command->add_option("--title", options->title, "The job's title")->type_name("TITLE");
+  addTraceOption(*command, options->trace)->capture_default_str();
+  command->add_option("documents", options->documents, "What to print")
+      ->required()
+      ->type_name("DOCUMENT");
+  return {command, [options] { return print(*options); }};
+}
+
+}  // namespace kwopde::app

@@ -1,0 +1,23 @@
+// Where a module's trace goes, for a while.
+#pragma once
+
+#include "platform/PlugIn.h"
+
+namespace kwopde::host {
+
+/// Sends the trace of `module` to `sink` while this lives, and then where it went before. Both are
+/// borrowed; null stands for the module's own sink.
+class TraceTo {
+public:
+  TraceTo(PlugInModule &module, LogSink *sink)
+      : module_(module), before_(module.setLogSink(sink)) {}
+  TraceTo(const TraceTo &) = delete;
+  TraceTo &operator=(const TraceTo &) = delete;
+  ~TraceTo() { module_.setLogSink(before_); }
+
+private:
+  PlugInModule &module_;
+  LogSink *before_;
+};
+
+}  // namespace kwopde::host
