@@ -177,7 +177,7 @@ TEST_F(Dialog, ShowsThePanelsOfAnyPrinter) {
   EXPECT_EQ(tabs_->count(), 3);
 
   session_ = std::make_shared<host::PpdSession>(
-      host::PpdFile::open(KWOPDE_SOURCE_FOLDER "/tests/transcripts/no-panels.ppd"));
+      host::PpdFile::open(KWOPDE_SOURCE_FOLDER "/resources/validate/no-panels.ppd"));
   host::PpdDialog none(host::loadModule(), session_, {});
   EXPECT_EQ(none.findChild<QTabWidget *>(), nullptr);
   none.accept();
