@@ -2,8 +2,8 @@
 
 #include <vector>
 
+#include "cocoa/BundleClasses.h"
 #include "cocoa/CocoaControls.h"
-#include "cocoa/KWOPDEPlugIn.h"
 
 using kwopde::cocoa::textOf;
 

@@ -4,7 +4,7 @@
 #include <fstream>
 #include <iostream>
 
-#include "cocoa/BundleModule.h"
+#include "app/cocoa/BundleModule.h"
 #include "cocoa/CocoaControls.h"
 #include "host/Error.h"
 #include "host/PpdSession.h"

@@ -1,11 +1,11 @@
-#include "cocoa/BundleModule.h"
+#include "app/cocoa/BundleModule.h"
 
 #include <algorithm>
 #include <map>
 #include <set>
 
+#include "cocoa/BundleClasses.h"
 #include "cocoa/CocoaControls.h"
-#include "cocoa/KWOPDEPlugIn.h"
 #include "host/Error.h"
 
 using kwopde::cocoa::stringFrom;

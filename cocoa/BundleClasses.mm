@@ -1,4 +1,4 @@
-#include "cocoa/KWOPDEPlugIn.h"
+#include "cocoa/BundleClasses.h"
 
 #include "cocoa/CocoaControls.h"
 #include "cocoa/Surroundings.h"

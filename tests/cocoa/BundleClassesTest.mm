@@ -5,7 +5,7 @@
 #include <cstdlib>
 #include <iostream>
 
-#include "cocoa/KWOPDEPlugIn.h"
+#include "cocoa/BundleClasses.h"
 
 #define EXPECT(CONDITION)                                                        \
   if (!(CONDITION)) {                                                            \
