@@ -1,7 +1,10 @@
 #include "cocoa/BundleClasses.h"
 
-#include "cocoa/CocoaControls.h"
-#include "cocoa/Surroundings.h"
+#include "cocoa/CocoaBundle.h"
+#include "cocoa/CocoaCallback.h"
+#include "cocoa/CocoaInterfaceLoader.h"
+#include "cocoa/Strings.h"
+#include "cocoa/SystemLog.h"
 #include "panels/ColorPDE.h"
 #include "panels/Media7032PDE.h"
 #include "panels/MediaPDE.h"
@@ -13,7 +16,7 @@ namespace {
 
 using namespace kwopde::cocoa;
 
-kwopde::cocoa::SystemLog systemLog;
+SystemLog systemLog;
 CocoaInterfaceLoader interfaceLoader;
 
 /// A string that may be nil, as the core takes it.
@@ -27,7 +30,7 @@ private:
   std::optional<std::string> text_;
 };
 
-/// One wrapper for a bundle, so that a panel's bundle is the plug-in's.
+/// A new wrapper at every call: it borrows the bundle and has nothing to tell it from another.
 std::shared_ptr<CocoaBundle> wrap(NSBundle *bundle) {
   return bundle ? std::make_shared<CocoaBundle>(bundle) : nullptr;
 }

@@ -9,16 +9,10 @@
 #include <string>
 #include <vector>
 
+#include "cocoa/Strings.h"
 #include "platform/Controls.h"
 
 namespace kwopde::cocoa {
-
-/// UTF-8 to a string object, autoreleased; null and what is no UTF-8 give nil.
-NSString *stringFrom(const std::string *text);
-NSString *stringFrom(std::string_view text);
-
-/// A string object as UTF-8; nil is empty.
-std::string textOf(NSString *string);
 
 /// Calls `visit` with every object of `objects`. GCC has no other loop over a collection.
 template <class Object, class Visit>

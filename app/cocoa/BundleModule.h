@@ -1,10 +1,9 @@
 // A bundle of AppKit as a host of ours drives it: it sends the bundle's objects the operations of
-// the contract, and works their controls.
+// the contract.
 #pragma once
 
 #import <AppKit/AppKit.h>
 
-#include "host/UserInput.h"
 #include "platform/PlugIn.h"
 
 namespace kwopde::cocoa {
@@ -22,13 +21,6 @@ public:
 private:
   NSBundle *native_;
   std::shared_ptr<Bundle> bundle_;
-};
-
-class CocoaUserInput final : public host::UserInput {
-public:
-  bool pick(PopUpButton &popUp, int index) override;
-  bool slide(Slider &slider, double value) override;
-  bool type(TextField &field, const std::string &text) override;
 };
 
 }  // namespace kwopde::cocoa

@@ -5,7 +5,8 @@
 #include <iostream>
 
 #include "app/cocoa/BundleModule.h"
-#include "cocoa/CocoaControls.h"
+#include "cocoa/CocoaUserInput.h"
+#include "cocoa/Strings.h"
 #include "host/Error.h"
 #include "host/PpdSession.h"
 #include "host/ScriptRunner.h"

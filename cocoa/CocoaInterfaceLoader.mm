@@ -1,9 +1,9 @@
-#include "cocoa/Surroundings.h"
+#include "cocoa/CocoaInterfaceLoader.h"
 
-#include <vector>
+#import <AppKit/AppKit.h>
 
-#include "cocoa/BundleClasses.h"
 #include "cocoa/CocoaControls.h"
+#include "cocoa/Strings.h"
 
 using kwopde::cocoa::textOf;
 
@@ -70,30 +70,6 @@ using kwopde::cocoa::textOf;
 
 namespace kwopde::cocoa {
 
-CocoaCallback::CocoaCallback(id host)
-    : host_(host), className_(textOf(NSStringFromClass([host class]))) {}
-
-ppd_file_t *CocoaCallback::ppdFile() {
-  return [host_ respondsToSelector:@selector(ppdFile)] ? [host_ ppdFile] : nullptr;
-}
-
-bool CocoaCallback::respondsToSelector(std::string_view selector) const {
-  return [host_ respondsToSelector:NSSelectorFromString(stringFrom(selector))];
-}
-
-bool CocoaCallback::willChangePPDOptionKeyValue(const std::string *key,
-                                                const std::string *ppdChoice) {
-  return [host_ willChangePPDOptionKeyValue:stringFrom(key) ppdChoice:stringFrom(ppdChoice)];
-}
-
-std::optional<std::string> CocoaBundle::localizedStringForKey(const std::string &key,
-                                                              const std::string *value,
-                                                              const std::string *table) const {
-  return textOf([bundle_ localizedStringForKey:stringFrom(&key)
-                                         value:stringFrom(value)
-                                         table:stringFrom(table)]);
-}
-
 bool CocoaInterfaceLoader::loadNibNamed(std::string_view name, InterfaceOwner &owner) {
   KWOPDEInterfaceOwner *proxy = [[[KWOPDEInterfaceOwner alloc] init] autorelease];
   if (![NSBundle loadNibNamed:stringFrom(name) owner:proxy] || !proxy->view) return false;
@@ -105,10 +81,6 @@ bool CocoaInterfaceLoader::loadNibNamed(std::string_view name, InterfaceOwner &o
   });
   owner.setOutlet("pdeView", view);
   return true;
-}
-
-void SystemLog::writeLine(std::string_view line) {
-  NSLog(@"%@", stringFrom(line));
 }
 
 }  // namespace kwopde::cocoa
