@@ -59,12 +59,12 @@ private:
   mutable std::vector<MenuItem> items_;
 };
 
-/// The slider moves in steps; its tag is how many of them make 1. With tag 0 it moves freely.
+/// Moves freely between its ends; what it stands at is cut, never rounded, by who reads it.
 class CocoaSlider final : public CocoaControl<Slider, NSSlider> {
 public:
   using CocoaControl::CocoaControl;
 
-  double doubleValue() const override;
+  double doubleValue() const override { return [view_ doubleValue]; }
   void setDoubleValue(double value) override;
   double minValue() const override { return [view_ minValue]; }
   double maxValue() const override { return [view_ maxValue]; }

@@ -39,12 +39,6 @@ const MenuItem *CocoaPopUpButton::itemAtIndex(int index) const {
   return &items_[i];
 }
 
-double CocoaSlider::doubleValue() const {
-  const auto stepsPerUnit = static_cast<double>([view_ tag]);
-  if (stepsPerUnit <= 0) return [view_ doubleValue];
-  return std::round([view_ doubleValue] * stepsPerUnit) / stepsPerUnit;
-}
-
 void CocoaSlider::setDoubleValue(double value) {
   if (!std::isnan(value)) [view_ setDoubleValue:std::clamp(value, minValue(), maxValue())];
 }
