@@ -5,7 +5,8 @@
 
 namespace kwopde::cocoa {
 
-/// Writes with NSLog, which adds the time and the process.
+/// Writes with NSLog, which adds the time and the process. Bytes that are not UTF-8 (a PPD can hold
+/// any) show as U+FFFD.
 class SystemLog final : public LogSink {
 public:
   void writeLine(std::string_view line) override;
