@@ -91,7 +91,7 @@ void PDEChoice::appendDescription(std::string &out) const {
   const std::string *user = userTitle();
   const std::string *ppd = ppdTitle();
   out += "<PDEChoice ";
-  appendAddress(out, this);
+  appendAddress(out, address());
   fmt::format_to(
       std::back_inserter(out), " userTitle:\"{}\" ppdTitle:\"{}\" marked:{} choice:{} of {}>",
       user ? *user : "(null)", ppd ? *ppd : "(null)", choice_ && choice_->marked ? "YES" : "NO",

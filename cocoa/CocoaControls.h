@@ -9,16 +9,10 @@
 #include <string>
 #include <vector>
 
+#include "cocoa/Strings.h"
 #include "platform/Controls.h"
 
 namespace kwopde::cocoa {
-
-/// UTF-8 to a string object, autoreleased; null and what is no UTF-8 give nil.
-NSString *stringFrom(const std::string *text);
-NSString *stringFrom(std::string_view text);
-
-/// A string object as UTF-8; nil is empty.
-std::string textOf(NSString *string);
 
 /// Calls `visit` with every object of `objects`. GCC has no other loop over a collection.
 template <class Object, class Visit>
@@ -40,6 +34,7 @@ public:
   void setEnabled(bool enabled) override {
     if ([view_ respondsToSelector:@selector(setEnabled:)]) [(NSControl *)view_ setEnabled:enabled];
   }
+  TextField *viewWithTag(int) override { return nullptr; }
   void *nativeView() const override { return view_; }
 
 protected:
@@ -65,12 +60,12 @@ private:
   mutable std::vector<MenuItem> items_;
 };
 
-/// The slider moves in steps; its tag is how many of them make 1. With tag 0 it moves freely.
+/// Moves freely between its ends; what it stands at is cut, never rounded, by who reads it.
 class CocoaSlider final : public CocoaControl<Slider, NSSlider> {
 public:
   using CocoaControl::CocoaControl;
 
-  double doubleValue() const override;
+  double doubleValue() const override { return [view_ doubleValue]; }
   void setDoubleValue(double value) override;
   double minValue() const override { return [view_ minValue]; }
   double maxValue() const override { return [view_ maxValue]; }

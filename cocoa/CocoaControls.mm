@@ -5,21 +5,6 @@
 
 namespace kwopde::cocoa {
 
-NSString *stringFrom(std::string_view text) {
-  return [[[NSString alloc] initWithBytes:text.data()
-                                   length:text.size()
-                                 encoding:NSUTF8StringEncoding] autorelease];
-}
-
-NSString *stringFrom(const std::string *text) {
-  return text ? stringFrom(std::string_view(*text)) : nil;
-}
-
-std::string textOf(NSString *string) {
-  const char *text = [string UTF8String];
-  return text ? text : "";
-}
-
 void CocoaPopUpButton::removeAllItems() {
   items_.clear();
   [view_ removeAllItems];
@@ -52,12 +37,6 @@ const MenuItem *CocoaPopUpButton::itemAtIndex(int index) const {
   for (auto next = items_.size(); next < count; ++next)
     items_.push_back({textOf([view_ itemTitleAtIndex:static_cast<NSInteger>(next)]), nullptr});
   return &items_[i];
-}
-
-double CocoaSlider::doubleValue() const {
-  const auto stepsPerUnit = static_cast<double>([view_ tag]);
-  if (stepsPerUnit <= 0) return [view_ doubleValue];
-  return std::round([view_ doubleValue] * stepsPerUnit) / stepsPerUnit;
 }
 
 void CocoaSlider::setDoubleValue(double value) {

@@ -10,7 +10,7 @@ void Object::appendDescription(std::string &out) const {
   out += '<';
   out += className();
   out += ": ";
-  appendAddress(out, this);
+  appendAddress(out, address());
   out += '>';
 }
 

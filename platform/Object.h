@@ -16,6 +16,10 @@ public:
   /// The name of the object's own class; never empty, valid for the process's life.
   virtual std::string_view className() const = 0;
 
+  /// Returns the address that the trace shows for this object: its own, or that of a toolkit's
+  /// object which it stands for. Never null, and the same at every call.
+  virtual const void *address() const { return this; }
+
   /// Appends the text that stands for this object in the trace; "<ClassName: 0xADDRESS>" unless a
   /// class says more. May be called at any time, also in the middle of another trace line.
   virtual void appendDescription(std::string &out) const;

@@ -175,6 +175,9 @@ private:
 
   static const void *addressOf(const PrintfArgument::Text &text) { return text.address; }
   static const void *addressOf(const void *pointer) { return pointer; }
+  static const void *addressOf(const Object *object) {
+    return object ? object->address() : nullptr;
+  }
 
   std::string &out_;
   std::span<const PrintfArgument> arguments_;

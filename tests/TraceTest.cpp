@@ -80,6 +80,25 @@ TEST(Trace, FillsInArguments) {
   EXPECT_EQ(expanded("%d", {std::numeric_limits<int>::min()}), "-2147483648");
 }
 
+TEST(Trace, ShowsTheAddressThatAnObjectStandsFor) {
+  class StandIn final : public Object {
+  public:
+    std::string_view className() const override { return "StandIn"; }
+    const void *address() const override { return reinterpret_cast<const void *>(0xabc); }
+  };
+  class Last final : public LogSink {
+  public:
+    void writeLine(std::string_view line) override { text = line; }
+    std::string text;
+  };
+  const StandIn object;
+  Last last;
+  setTraceSink(&last);
+  PDELog(&object, "%@ %p", {&object, &object});
+  setTraceSink(nullptr);
+  EXPECT_EQ(last.text, "LOG self(<StandIn: 0xabc>) <StandIn: 0xabc> 0xabc");
+}
+
 // A description becomes part of the format, so what it holds acts as a conversion.
 TEST(Trace, DescriptionsConsumeArguments) {
   const Named d("50 %d");

@@ -1,10 +1,14 @@
-#include "cocoa/KWOPDEPlugIn.h"
+#include "cocoa/BundleClasses.h"
 
-#include "cocoa/CocoaControls.h"
-#include "cocoa/Surroundings.h"
+#include "cocoa/CocoaBundle.h"
+#include "cocoa/CocoaCallback.h"
+#include "cocoa/CocoaInterfaceLoader.h"
+#include "cocoa/Strings.h"
+#include "cocoa/SystemLog.h"
 #include "panels/ColorPDE.h"
 #include "panels/Media7032PDE.h"
 #include "panels/MediaPDE.h"
+#include "panels/PanelClasses.h"
 #include "panels/SharpenPDE.h"
 #include "plugin/KWOPDEPlugin.h"
 #include "plugin/PDELogging.h"
@@ -13,7 +17,7 @@ namespace {
 
 using namespace kwopde::cocoa;
 
-kwopde::cocoa::SystemLog systemLog;
+SystemLog systemLog;
 CocoaInterfaceLoader interfaceLoader;
 
 /// A string that may be nil, as the core takes it.
@@ -27,7 +31,7 @@ private:
   std::optional<std::string> text_;
 };
 
-/// One wrapper for a bundle, so that a panel's bundle is the plug-in's.
+/// A new wrapper at every call: it borrows the bundle and has nothing to tell it from another.
 std::shared_ptr<CocoaBundle> wrap(NSBundle *bundle) {
   return bundle ? std::make_shared<CocoaBundle>(bundle) : nullptr;
 }
@@ -68,8 +72,20 @@ struct KWOPDEPanelParts {
   kwopde::Bundle::setInterfaceLoader(&interfaceLoader);
 }
 
-+ (void)setTraceSink:(void *)sink {
-  kwopde::setTraceSink(sink ? static_cast<kwopde::LogSink *>(sink) : &systemLog);
++ (void *)setTraceSink:(void *)sink {
+  kwopde::LogSink *const before =
+      kwopde::setTraceSink(sink ? static_cast<kwopde::LogSink *>(sink) : &systemLog);
+  return before == &systemLog ? nullptr : before;
+}
+
++ (const void *)moduleInspector {
+  class Inspector final : public kwopde::ModuleInspector {
+    std::vector<kwopde::PanelRequirement> requirements() const override {
+      return kwopde::panelRequirements();
+    }
+  };
+  static const Inspector inspector;
+  return &inspector;
 }
 
 /// A host may call initWithBundle: without init.
@@ -187,17 +203,8 @@ struct KWOPDEPanelParts {
 - (void)writeNonPPDSettingsToPrintSettings {
   parts->panel->writeNonPPDSettingsToPrintSettings();
 }
-- (NSArray *)optionKeys {
-  NSMutableArray *keys = [NSMutableArray array];
-  for (const auto &option : parts->panel->options()) [keys addObject:stringFrom(option.key)];
-  return keys;
-}
-- (NSDictionary *)controls {
-  NSMutableDictionary *controls = [NSMutableDictionary dictionary];
-  for (const auto &control : parts->panel->controls())
-    [controls setObject:control.control ? (id)control.control->nativeView() : (id)[NSNull null]
-                 forKey:stringFrom(control.outlet)];
-  return controls;
+- (const void *)inspector {
+  return kwopde::inspectorOf(*parts->panel);
 }
 @end
 

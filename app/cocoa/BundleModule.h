@@ -1,34 +1,27 @@
 // A bundle of AppKit as a host of ours drives it: it sends the bundle's objects the operations of
-// the contract, and works their controls.
+// the contract.
 #pragma once
 
 #import <AppKit/AppKit.h>
 
-#include "host/UserInput.h"
+#include "platform/PanelInspector.h"
 #include "platform/PlugIn.h"
 
 namespace kwopde::cocoa {
 
-class BundleModule final : public PlugInModule {
+class BundleModule final : public PlugInModule, public ModuleInspector {
 public:
   /// Loads the bundle at `path`. Throws `host::Error` when it has no principal class of ours.
   explicit BundleModule(const std::string &path);
 
   std::shared_ptr<Bundle> bundle() override { return bundle_; }
   std::unique_ptr<PlugIn> makePlugIn() override;
-  std::vector<PanelRequirement> requirements() const override { return {}; }
-  void setLogSink(LogSink *sink) override;
+  std::vector<PanelRequirement> requirements() const override;
+  LogSink *setLogSink(LogSink *sink) override;
 
 private:
   NSBundle *native_;
   std::shared_ptr<Bundle> bundle_;
-};
-
-class CocoaUserInput final : public host::UserInput {
-public:
-  bool pick(PopUpButton &popUp, int index) override;
-  bool slide(Slider &slider, double value) override;
-  bool type(TextField &field, const std::string &text) override;
 };
 
 }  // namespace kwopde::cocoa

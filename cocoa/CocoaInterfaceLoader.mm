@@ -1,9 +1,9 @@
-#include "cocoa/Surroundings.h"
+#include "cocoa/CocoaInterfaceLoader.h"
 
-#include <vector>
+#import <AppKit/AppKit.h>
 
 #include "cocoa/CocoaControls.h"
-#include "cocoa/KWOPDEPlugIn.h"
+#include "cocoa/Strings.h"
 
 using kwopde::cocoa::textOf;
 
@@ -61,7 +61,7 @@ using kwopde::cocoa::textOf;
     if ([outlet isEqualToString:@"pdeView"]) view = connected;
     if (connected) [outlets setObject:connected forKey:outlet];
   } else if ([KWOPDEInterfaceOwner isAction:selector]) {
-    if (owner) owner->performAction(textOf(NSStringFromSelector(selector)));
+    if (owner) owner->performAction(textOf(NSStringFromSelector(selector)), nullptr);
   } else {
     [super forwardInvocation:invocation];
   }
@@ -69,30 +69,6 @@ using kwopde::cocoa::textOf;
 @end
 
 namespace kwopde::cocoa {
-
-CocoaCallback::CocoaCallback(id host)
-    : host_(host), className_(textOf(NSStringFromClass([host class]))) {}
-
-ppd_file_t *CocoaCallback::ppdFile() {
-  return [host_ respondsToSelector:@selector(ppdFile)] ? [host_ ppdFile] : nullptr;
-}
-
-bool CocoaCallback::respondsToSelector(std::string_view selector) const {
-  return [host_ respondsToSelector:NSSelectorFromString(stringFrom(selector))];
-}
-
-bool CocoaCallback::willChangePPDOptionKeyValue(const std::string *key,
-                                                const std::string *ppdChoice) {
-  return [host_ willChangePPDOptionKeyValue:stringFrom(key) ppdChoice:stringFrom(ppdChoice)];
-}
-
-std::optional<std::string> CocoaBundle::localizedStringForKey(const std::string &key,
-                                                              const std::string *value,
-                                                              const std::string *table) const {
-  return textOf([bundle_ localizedStringForKey:stringFrom(&key)
-                                         value:stringFrom(value)
-                                         table:stringFrom(table)]);
-}
 
 bool CocoaInterfaceLoader::loadNibNamed(std::string_view name, InterfaceOwner &owner) {
   KWOPDEInterfaceOwner *proxy = [[[KWOPDEInterfaceOwner alloc] init] autorelease];
@@ -105,10 +81,6 @@ bool CocoaInterfaceLoader::loadNibNamed(std::string_view name, InterfaceOwner &o
   });
   owner.setOutlet("pdeView", view);
   return true;
-}
-
-void SystemLog::writeLine(std::string_view line) {
-  NSLog(@"%@", stringFrom(line));
 }
 
 }  // namespace kwopde::cocoa

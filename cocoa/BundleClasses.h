@@ -19,8 +19,11 @@
 /// Panels of the classes below, owned by the plug-in.
 - (NSArray *)PDEPanelsForType:(NSString *)type withHostInfo:(id)host;
 
-/// Where the trace goes: a `kwopde::LogSink`, borrowed; null stands for NSLog. For tools.
-+ (void)setTraceSink:(void *)sink;
+// For tools of ours.
+/// Sends the trace to a `kwopde::LogSink`, borrowed; null stands for NSLog. Returns the one before.
++ (void *)setTraceSink:(void *)sink;
+/// Returns a `kwopde::ModuleInspector`.
++ (const void *)moduleInspector;
 @end
 
 /// What MediaPDE, Media7032PDE, ColorPDE and SharpenPDE are.
@@ -43,11 +46,9 @@
 - (void)getNonPPDSettingsFromPrintSettings;
 - (void)writeNonPPDSettingsToPrintSettings;
 
-// For tools; not traced.
-/// The keyword of every option that the panel handles.
-- (NSArray *)optionKeys;
-/// A view, or NSNull where it is not connected, for every outlet.
-- (NSDictionary *)controls;
+// For tools of ours; not traced.
+/// Returns a `kwopde::PanelInspector`, which lives as long as the panel.
+- (const void *)inspector;
 @end
 
 @interface MediaPDE : KWOPDEPanel

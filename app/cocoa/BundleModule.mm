@@ -1,11 +1,10 @@
-#include "cocoa/BundleModule.h"
+#include "app/cocoa/BundleModule.h"
 
-#include <algorithm>
 #include <map>
-#include <set>
 
+#include "cocoa/BundleClasses.h"
 #include "cocoa/CocoaControls.h"
-#include "cocoa/KWOPDEPlugIn.h"
+#include "cocoa/Strings.h"
 #include "host/Error.h"
 
 using kwopde::cocoa::stringFrom;
@@ -40,10 +39,12 @@ namespace kwopde::cocoa {
 namespace {
 
 /// A panel object of the bundle.
-class BundlePanel final : public Panel {
+class BundlePanel final : public Panel, public PanelInspector {
 public:
   explicit BundlePanel(KWOPDEPanel *panel)
-      : panel_([panel retain]), className_(textOf(NSStringFromClass([panel class]))) {}
+      : panel_([panel retain]),
+        className_(textOf(NSStringFromClass([panel class]))),
+        inspected_(*static_cast<const PanelInspector *>([panel inspector])) {}
   ~BundlePanel() override { [panel_ release]; }
 
   std::string_view className() const override { return className_; }
@@ -93,25 +94,16 @@ public:
   void writeNonPPDSettingsToPrintSettings() override {
     [panel_ writeNonPPDSettingsToPrintSettings];
   }
-  std::vector<PanelOption> options() const override {
-    std::vector<PanelOption> options;
-    forEach<NSString>([[panel_ optionKeys] objectEnumerator], [&](NSString *key) {
-      options.push_back({textOf(key), PanelOption::Kind::choice, {}});
-    });
-    return options;
-  }
+  std::string_view word() const override { return inspected_.word(); }
+  std::vector<PanelOption> options() const override { return inspected_.options(); }
   std::vector<PanelControl> controls() const override {
-    std::vector<PanelControl> list;
-    NSDictionary *views = [panel_ controls];
-    forEach<NSString>([views keyEnumerator], [&](NSString *outlet) {
-      const auto name = outlets_.insert(textOf(outlet)).first;
-      NSView *view = [views objectForKey:outlet];
-      auto &control = controls_[*name];
-      if (!control && (id)view != [NSNull null]) control = makeControl(view);
-      list.push_back({*name, control.get()});
-    });
-    std::sort(list.begin(), list.end(),
-              [](const PanelControl &a, const PanelControl &b) { return a.outlet < b.outlet; });
+    auto list = inspected_.controls();
+    // The host has wrappers of its own for the views.
+    for (auto &[outlet, control] : list) {
+      auto &own = controls_[outlet];
+      if (!own && control) own = makeControl(static_cast<NSView *>(control->nativeView()));
+      control = own.get();
+    }
     return list;
   }
 
@@ -122,8 +114,8 @@ private:
   std::string name_;
   std::string kind_;
   std::vector<std::string> keys_;
-  mutable std::set<std::string> outlets_;
-  mutable std::map<std::string, std::shared_ptr<View>> controls_;
+  const PanelInspector &inspected_;  // the bundle's
+  mutable std::map<std::string_view, std::shared_ptr<View>> controls_;
 };
 
 class NativeBundle final : public Bundle {
@@ -174,12 +166,6 @@ private:
   PanelList panels_;
 };
 
-template <class NativeView>
-NativeView *viewOf(const View &view, Class kind) {
-  auto *native = static_cast<NSView *>(view.nativeView());
-  return [native isKindOfClass:kind] ? static_cast<NativeView *>(native) : nil;
-}
-
 }  // namespace
 
 BundleModule::BundleModule(const std::string &path) {
@@ -195,27 +181,13 @@ std::unique_ptr<PlugIn> BundleModule::makePlugIn() {
   return std::make_unique<BundlePlugIn>([native_ principalClass]);
 }
 
-void BundleModule::setLogSink(LogSink *sink) {
-  [(id)[native_ principalClass] setTraceSink:sink];
+std::vector<PanelRequirement> BundleModule::requirements() const {
+  return static_cast<const ModuleInspector *>([(id)[native_ principalClass] moduleInspector])
+      ->requirements();
 }
 
-bool CocoaUserInput::pick(PopUpButton &popUp, int index) {
-  auto *button = viewOf<NSPopUpButton>(popUp, [NSPopUpButton class]);
-  [button selectItemAtIndex:index];
-  return button && [button sendAction:[button action] to:[button target]];
-}
-
-bool CocoaUserInput::slide(Slider &slider, double value) {
-  auto *native = viewOf<NSSlider>(slider, [NSSlider class]);
-  slider.setDoubleValue(value);
-  return native && [native sendAction:[native action] to:[native target]];
-}
-
-bool CocoaUserInput::type(TextField &field, const std::string &text) {
-  auto *native = viewOf<NSTextField>(field, [NSTextField class]);
-  if (![native isEditable]) return false;
-  [native setStringValue:stringFrom(&text)];
-  return true;
+LogSink *BundleModule::setLogSink(LogSink *sink) {
+  return static_cast<LogSink *>([(id)[native_ principalClass] setTraceSink:sink]);
 }
 
 }  // namespace kwopde::cocoa

@@ -4,11 +4,14 @@
 #include <fstream>
 #include <iostream>
 
-#include "cocoa/BundleModule.h"
-#include "cocoa/CocoaControls.h"
+#include "app/cocoa/BundleModule.h"
+#include "cocoa/CocoaUserInput.h"
+#include "cocoa/Strings.h"
 #include "host/Error.h"
+#include "host/Extension.h"
 #include "host/PpdSession.h"
 #include "host/ScriptRunner.h"
+#include "host/TraceTo.h"
 
 namespace {
 
@@ -57,11 +60,8 @@ int run(const std::string &bundle, const std::string &ppd, bool noConstraintHand
   cocoa::BundleModule module(bundle);
   cocoa::CocoaUserInput user;
   if (!pictures.empty()) {
-    const auto plugIn = module.makePlugIn();
-    plugIn->initWithBundle(module.bundle().get());
-    const std::string type(kPrinterModuleTypeIDStr);
-    if (const PanelList *panels = plugIn->PDEPanelsForType(&type, session))
-      takePictures(*panels, pictures);
+    host::Extension extension(module, session);
+    if (const PanelList *panels = extension.open()) takePictures(*panels, pictures);
     return 0;
   }
   std::ifstream file;
@@ -70,10 +70,8 @@ int run(const std::string &bundle, const std::string &ppd, bool noConstraintHand
     if (!file) throw host::Error(script + ": cannot be read");
   }
   host::ScriptRunner runner(module, session, user, std::cout, std::cerr);
-  module.setLogSink(&runner);
-  const bool good = runner.run(script == "-" ? std::cin : file);
-  module.setLogSink(nullptr);
-  return good ? 0 : 1;
+  const host::TraceTo trace(module, &runner);
+  return runner.run(script == "-" ? std::cin : file) ? 0 : 1;
 }
 
 }  // namespace
