@@ -7,9 +7,9 @@
 #include <vector>
 
 #include "app/Command.h"
+#include "check/PpdCheck.h"
+#include "dialog/ModuleLoader.h"
 #include "host/Error.h"
-#include "host/PpdCheck.h"
-#include "host/dialog/ModuleLoader.h"
 
 namespace kwopde::app {
 

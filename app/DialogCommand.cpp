@@ -10,13 +10,13 @@
 #include "app/Files.h"
 #include "app/JobReport.h"
 #include "app/TraceOption.h"
+#include "dialog/ModuleLoader.h"
+#include "dialog/Pictures.h"
+#include "dialog/PpdDialog.h"
+#include "dialog/QueueDialog.h"
 #include "host/PpdSession.h"
 #include "host/PrintQueue.h"
 #include "host/TraceTo.h"
-#include "host/dialog/ModuleLoader.h"
-#include "host/dialog/Pictures.h"
-#include "host/dialog/PpdDialog.h"
-#include "host/dialog/QueueDialog.h"
 
 namespace kwopde::app {
 

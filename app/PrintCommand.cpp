@@ -13,14 +13,14 @@
 #include "app/Files.h"
 #include "app/JobReport.h"
 #include "app/TraceOption.h"
+#include "dialog/ModuleLoader.h"
 #include "host/Error.h"
 #include "host/PpdSession.h"
 #include "host/PrintJob.h"
 #include "host/PrintQueue.h"
-#include "host/ScriptRunner.h"
 #include "host/TraceTo.h"
-#include "host/dialog/ModuleLoader.h"
 #include "qt/QtUserInput.h"
+#include "script/ScriptRunner.h"
 
 namespace kwopde::app {
 

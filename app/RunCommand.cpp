@@ -5,11 +5,11 @@
 #include "app/Command.h"
 #include "app/Files.h"
 #include "app/TraceOption.h"
+#include "dialog/ModuleLoader.h"
 #include "host/PpdSession.h"
-#include "host/ScriptRunner.h"
 #include "host/TraceTo.h"
-#include "host/dialog/ModuleLoader.h"
 #include "qt/QtUserInput.h"
+#include "script/ScriptRunner.h"
 
 namespace kwopde::app {
 

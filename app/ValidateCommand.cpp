@@ -16,9 +16,9 @@
 
 #include "app/Command.h"
 #include "app/Files.h"
+#include "check/RandomSession.h"
+#include "dialog/ModuleLoader.h"
 #include "host/Error.h"
-#include "host/dialog/ModuleLoader.h"
-#include "host/validator/RandomSession.h"
 #include "qt/QtUserInput.h"
 
 namespace kwopde::app {

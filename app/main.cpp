@@ -6,8 +6,8 @@
 #include <cstdio>
 
 #include "app/Command.h"
+#include "dialog/Translations.h"
 #include "host/Error.h"
-#include "host/dialog/Translations.h"
 
 namespace {
 

@@ -3,10 +3,10 @@
 #include <QPrintDialog>
 #include <QtDebug>
 
+#include "dialog/ModuleLoader.h"
+#include "dialog/PrintDialogPanels.h"
+#include "dialog/Translations.h"
 #include "host/Error.h"
-#include "host/dialog/ModuleLoader.h"
-#include "host/dialog/PrintDialogPanels.h"
-#include "host/dialog/Translations.h"
 
 namespace kwopde {
 

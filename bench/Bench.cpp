@@ -17,8 +17,8 @@
 
 #include "attach/kwopde/attach.h"
 #include "choice/Utility.h"
+#include "dialog/QueueDialog.h"
 #include "headless/Headless.h"
-#include "host/dialog/QueueDialog.h"
 #include "panels/MediaPDE.h"
 #include "platform/PanelInspector.h"
 #include "plugin/KWOPDEPlugin.h"

@@ -4,9 +4,9 @@
 
 #include <cstdint>
 
+#include "check/PpdCheck.h"
 #include "fuzz/Session.h"
 #include "host/Error.h"
-#include "host/PpdCheck.h"
 
 namespace {
 

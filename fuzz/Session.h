@@ -7,8 +7,8 @@
 
 #include "headless/Headless.h"
 #include "host/PpdSession.h"
-#include "host/ScriptRunner.h"
 #include "host/TraceTo.h"
+#include "script/ScriptRunner.h"
 
 namespace kwopde::fuzz {
 

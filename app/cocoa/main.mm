@@ -10,7 +10,7 @@
 #include "host/Error.h"
 #include "host/Extension.h"
 #include "host/PpdSession.h"
-#include "host/ScriptRunner.h"
+#include "script/ScriptRunner.h"
 #include "host/TraceTo.h"
 
 namespace {

@@ -1,0 +1,69 @@
+// The extension's panels and their summary as pages for the tabs of a dialog.
+#pragma once
+
+#include <QList>
+#include <QObject>
+#include <QPointer>
+#include <memory>
+
+#include "dialog/Notices.h"
+#include "dialog/Page.h"
+#include "host/Extension.h"
+#include "host/PpdSession.h"
+#include "platform/PlugIn.h"
+
+namespace kwopde::host {
+
+/// One panel. The panel hears that it is shown and left when its page is; its view is made when the
+/// page is first seen.
+class PanelPage final : public Page {
+  Q_OBJECT
+
+public:
+  /// `panel` is borrowed.
+  explicit PanelPage(Panel &panel);
+
+  /// Shows the panel's own help, when the panel lets the dialog do so.
+  void showHelp();
+
+  /// Settles what is shown, for a job that is about to be sent.
+  void print();
+
+protected:
+  void showEvent(QShowEvent *event) override;
+  void hideEvent(QHideEvent *event) override;
+
+private:
+  QWidget *view();
+
+  Panel &panel_;
+  bool seen_ = false;
+};
+
+class PanelPages final : public QObject {
+  Q_OBJECT
+
+public:
+  /// Makes the extension's panels for the PPD of `session` and lets them read what is marked.
+  PanelPages(PlugInModule &module, std::shared_ptr<PpdSession> session, QObject *parent = nullptr);
+
+  /// Destroys the pages that still exist, and drops the extension.
+  ~PanelPages() override;
+
+  /// The pages in order, the summary last; none when the PPD has no option of any panel. A page's
+  /// tab is titled with its windowTitle; its objectName is the same in every language. They belong
+  /// to the dialog that takes them.
+  QList<Page *> pages() const;
+
+  /// Settles what every panel shows; the session's marks are then those of the job.
+  void print();
+
+private:
+  std::shared_ptr<PpdSession> session_;
+  Notices notices_;
+  Extension extension_;
+  QList<QPointer<PanelPage>> panelPages_;
+  QPointer<Page> summaryPage_;
+};
+
+}  // namespace kwopde::host

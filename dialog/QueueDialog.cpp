@@ -1,0 +1,82 @@
+#include "dialog/QueueDialog.h"
+
+#include <QCoreApplication>
+#include <QDialogButtonBox>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QPageRanges>
+#include <QPrinter>
+#include <QProgressDialog>
+#include <QPushButton>
+#include <QTabWidget>
+
+#include "host/Error.h"
+
+namespace kwopde::host {
+
+namespace {
+
+/// Milliseconds of sending before a progress bar is worth showing.
+constexpr int kPatience = 500;
+
+}  // namespace
+
+void expandOptions(QPrintDialog &dialog) {
+  const auto *tabs = dialog.findChild<QTabWidget *>();
+  if (!tabs || tabs->isVisibleTo(&dialog)) return;
+  // The button "Options >>" has no name, but it is the only one of its role.
+  for (auto *box : dialog.findChildren<QDialogButtonBox *>())
+    for (QAbstractButton *button : box->buttons())
+      if (box->buttonRole(button) == QDialogButtonBox::ResetRole) button->click();
+}
+
+QueueDialog::QueueDialog(PlugInModule &module, QPrinter &printer, const QStringList &documents)
+    : QPrintDialog(&printer),
+      panels_(*new PrintDialogPanels(module, *this)),
+      documents_(documents) {
+  setOption(PrintToFile, false);
+  expandOptions(*this);  // the panels are what this dialog is for
+}
+
+PrintJob QueueDialog::job() const {
+  PrintJob job{printer()->printerName().toStdString(), {}, {}, panels_.choices()};
+  for (const QString &document : documents_) job.documents.push_back(document.toStdString());
+  if (!documents_.isEmpty()) job.title = QFileInfo(documents_.front()).fileName().toStdString();
+  if (const int copies = printer()->copyCount(); copies > 1)
+    job.options.push_back({"copies", std::to_string(copies)});
+  if (const QPageRanges pages = printer()->pageRanges(); !pages.isEmpty())
+    job.options.push_back({"page-ranges", pages.toString().toStdString()});
+  return job;
+}
+
+void QueueDialog::done(int result) {
+  if (result == Accepted) {
+    panels_.settle();
+    if (!documents_.isEmpty() && !sendDocuments()) return;
+  }
+  QPrintDialog::done(result);
+}
+
+bool QueueDialog::sendDocuments() {
+  for (;;) {
+    QProgressDialog progress(tr("Sending to the printer…"), tr("Cancel"), 0, 1000, this);
+    progress.setWindowModality(Qt::WindowModal);
+    progress.setMinimumDuration(kPatience);
+    try {
+      jobId_ = send(job(), [&](long long sent, long long total) {
+        progress.setValue(static_cast<int>(sent * 999 / std::max(total, 1LL)));
+        QCoreApplication::processEvents();
+        return !progress.wasCanceled();
+      });
+      return jobId_.has_value();
+    } catch (const Error &error) {
+      progress.close();
+      const auto choice =
+          QMessageBox::warning(this, tr("Printing failed"), QString::fromStdString(error.what()),
+                               QMessageBox::Retry | QMessageBox::Close, QMessageBox::Retry);
+      if (choice != QMessageBox::Retry) return false;
+    }
+  }
+}
+
+}  // namespace kwopde::host

@@ -1,0 +1,42 @@
+// Qt's print dialog with the panels, sending documents to a queue.
+#pragma once
+
+#include <QPrintDialog>
+#include <QStringList>
+#include <optional>
+
+#include "dialog/PrintDialogPanels.h"
+#include "host/PrintJob.h"
+
+namespace kwopde::host {
+
+/// Opens the part of `dialog` that has the tabs.
+void expandOptions(QPrintDialog &dialog);
+
+/// "Print" sends the documents. When that fails, the dialog says why and stays open with every
+/// setting kept.
+class QueueDialog final : public QPrintDialog {
+  Q_OBJECT
+
+public:
+  /// `printer` has the queue that is chosen at first, and is borrowed. With no documents, accepting
+  /// only settles the options.
+  QueueDialog(PlugInModule &module, QPrinter &printer, const QStringList &documents);
+
+  /// The number of the job that was sent; none when there were no documents.
+  std::optional<int> jobId() const { return jobId_; }
+
+  /// The job as it was sent, or would be.
+  PrintJob job() const;
+
+  void done(int result) override;
+
+private:
+  bool sendDocuments();
+
+  PrintDialogPanels &panels_;
+  QStringList documents_;
+  std::optional<int> jobId_;
+};
+
+}  // namespace kwopde::host

@@ -1,0 +1,59 @@
+#include "dialog/SummaryPage.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QShowEvent>
+
+namespace kwopde::host {
+
+namespace {
+
+QLabel *plainLabel(const std::string &text) {
+  auto *label = new QLabel(QString::fromStdString(text));
+  label->setTextFormat(Qt::PlainText);
+  return label;
+}
+
+QLabel *heading(const std::string &text) {
+  QLabel *label = plainLabel(text);
+  QFont font = label->font();
+  font.setBold(true);
+  label->setFont(font);
+  return label;
+}
+
+}  // namespace
+
+SummaryPage::SummaryPage(const PanelList &panels) : panels_(panels) {
+  setWindowTitle(tr("Summary"));
+  setObjectName("summary");
+}
+
+void SummaryPage::showEvent(QShowEvent *event) {
+  Page::showEvent(event);
+  if (!event->spontaneous()) setContent(table());
+}
+
+QWidget *SummaryPage::table() {
+  auto *content = new QWidget;
+  auto *grid = new QGridLayout(content);
+  grid->setHorizontalSpacing(2 * fontMetrics().averageCharWidth());
+  grid->setVerticalSpacing(fontMetrics().height() / 4);
+  grid->setColumnMinimumWidth(0, fontMetrics().averageCharWidth());
+  grid->setColumnStretch(2, 1);
+  int row = 0;
+  for (const auto &panel : panels_) {
+    const auto summary = panel->summaryInfo();
+    const std::string *name = panel->panelName();
+    if (row > 0) grid->setRowMinimumHeight(row++, fontMetrics().height() / 2);
+    grid->addWidget(heading(name ? *name : std::string()), row++, 0, 1, 3);
+    for (const auto &[title, value] : summary->entries()) {
+      grid->addWidget(plainLabel(title + ":"), row, 1);
+      grid->addWidget(plainLabel(value), row++, 2);
+    }
+  }
+  grid->setRowStretch(row, 1);
+  return content;
+}
+
+}  // namespace kwopde::host

@@ -1,0 +1,28 @@
+#include "dialog/Translations.h"
+
+#include <QCoreApplication>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
+
+namespace kwopde::host {
+
+namespace {
+
+void install(const QString &name, const QString &folder) {
+  auto *application = QCoreApplication::instance();
+  if (application->findChild<QTranslator *>(name)) return;
+  auto *translator = new QTranslator(application);
+  translator->setObjectName(name);
+  if (translator->load(QLocale(), name, "_", folder))
+    QCoreApplication::installTranslator(translator);
+}
+
+}  // namespace
+
+void installTranslations() {
+  install("qtbase", QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+  install("kwopde-host", ":/kwopde-host");
+}
+
+}  // namespace kwopde::host

@@ -1,0 +1,290 @@
+#include "script/ScriptRunner.h"
+
+#include <fmt/format.h>
+#include <fmt/ostream.h>
+#include <fmt/printf.h>
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <string>
+
+#include "host/Error.h"
+#include "platform/PanelInspector.h"
+#include "script/PanelCalls.h"
+
+namespace kwopde::host {
+
+namespace {
+
+std::string nameOf(const Word &word) {
+  return word.value_or("nil");
+}
+
+const std::string *pointerTo(const Word &word) {
+  return word ? &*word : nullptr;
+}
+
+std::string yesOrNo(bool answer) {
+  return answer ? "YES" : "NO";
+}
+
+/// What `controls` shows for one control.
+std::string stateText(const View *control) {
+  if (!control) return "nil";
+  std::string value;
+  if (auto *popUp = dynamic_cast<const PopUpButton *>(control)) {
+    const int index = popUp->indexOfSelectedItem();
+    const Menu *menu = const_cast<PopUpButton *>(popUp)->menu();
+    const MenuItem *item = menu ? menu->itemAtIndex(index) : nullptr;
+    value = item ? fmt::format("{} {}", index, quoted(item->title.value_or(""))) : "-1";
+  } else if (auto *slider = dynamic_cast<const Slider *>(control)) {
+    value = fmt::sprintf("%g", slider->doubleValue());
+  } else if (auto *field = dynamic_cast<const TextField *>(control)) {
+    value = quoted(field->stringValue());
+  }
+  return value + (control->isEnabled() ? " enabled" : " disabled");
+}
+
+template <class Number>
+Number number(const Word &word) {
+  Number value{};
+  const std::string text = nameOf(word);
+  const auto read = std::from_chars(text.data(), text.data() + text.size(), value);
+  if (read.ec != std::errc() || read.ptr != text.data() + text.size() ||
+      !std::isfinite(static_cast<double>(value)))
+    throw Error(fmt::format("\"{}\" is not a number", text));
+  return value;
+}
+
+/// Returns the words of the panels that `module` could make, each once; none when it does not tell.
+std::vector<std::string_view> panelWords(const PlugInModule &module) {
+  std::vector<std::string_view> words;
+  if (const ModuleInspector *inspector = inspectorOf(module))
+    for (const PanelRequirement &needed : inspector->requirements())
+      if (std::find(words.begin(), words.end(), needed.word) == words.end())
+        words.push_back(needed.word);
+  return words;
+}
+
+/// The row of a table that is called `name`; null when there is none.
+template <class Table>
+auto find(const Table &table, std::string_view name) {
+  const auto row = std::find_if(std::begin(table), std::end(table),
+                                [&](const auto &entry) { return entry.name == name; });
+  return row == std::end(table) ? nullptr : row;
+}
+
+void checkCount(const std::vector<Word> &words, std::size_t least, std::size_t most) {
+  const auto count = words.size() - 1;
+  if (count >= least && count <= most) return;
+  const auto wanted = count < least ? least : most;
+  throw Error(fmt::format("{} takes {} {} {}, not {}", nameOf(words.front()),
+                          count < least ? "at least" : "at most", wanted,
+                          wanted == 1 ? "word" : "words", count));
+}
+
+}  // namespace
+
+struct ScriptRunner::Command {
+  std::string_view name;
+  std::size_t least;  // words after the name
+  std::size_t most;
+  std::string (ScriptRunner::*run)(const std::vector<Word> &words);
+};
+
+const ScriptRunner::Command ScriptRunner::kCommands[] = {
+    {"pick", 2, 2, &ScriptRunner::pick},         {"slide", 2, 2, &ScriptRunner::slide},
+    {"type", 2, 2, &ScriptRunner::type},         {"controls", 1, 1, &ScriptRunner::showControls},
+    {"mark", 2, 2, &ScriptRunner::mark},         {"refuse", 1, 1, &ScriptRunner::refuse},
+    {"marked", 0, 1, &ScriptRunner::showMarked}, {"release", 0, 0, &ScriptRunner::release},
+};
+
+const ScriptRunner::Command ScriptRunner::kPlugInOperations[] = {
+    {"initWithBundle", 0, 0, &ScriptRunner::initWithBundle},
+    {"PDEPanelsForType", 0, 1, &ScriptRunner::PDEPanelsForType},
+};
+
+std::string ScriptRunner::initWithBundle(const std::vector<Word> &) {
+  return yesOrNo(extension().plugIn().initWithBundle(extension().bundle()));
+}
+
+std::string ScriptRunner::PDEPanelsForType(const std::vector<Word> &words) {
+  const Word type = words.size() > 1 ? words[1] : Word(kPrinterModuleTypeIDStr);
+  const PanelList *panels = extension().ask(pointerTo(type));
+  if (!panels) return "nil";
+  std::vector<std::string> classes;
+  for (const auto &panel : *panels) classes.push_back(fmt::format("<{}>", panel->className()));
+  return fmt::format("[{}]", fmt::join(classes, ", "));
+}
+
+ScriptRunner::ScriptRunner(PlugInModule &module, std::shared_ptr<PpdSession> session,
+                           UserInput &user, std::ostream &out, std::ostream &errors)
+    : module_(module),
+      session_(std::move(session)),
+      user_(user),
+      out_(out),
+      errors_(errors),
+      extension_(std::in_place, module, session_) {
+  session_->addObserver(this);
+}
+
+ScriptRunner::~ScriptRunner() {
+  extension_.reset();
+  session_->removeObserver(this);
+}
+
+bool ScriptRunner::run(std::istream &script) {
+  bool good = true;
+  std::string line;
+  for (int number = 1; std::getline(script, line); ++number) {
+    if (!line.empty() && line.back() == '\r') line.pop_back();
+    if (isBlank(line)) continue;
+    fmt::print(out_, "> {}\n", line);
+    try {
+      const std::string result = perform(splitWords(line));
+      fmt::print(out_, "= {}\n", result);
+    } catch (const Error &error) {
+      out_.flush();
+      fmt::print(errors_, "error: {}: {}\n", number, error.what());
+      good = false;
+    }
+  }
+  return good;
+}
+
+void ScriptRunner::requestWasAnswered(const std::string *key, const std::string *choice,
+                                      const Answer &answer) {
+  fmt::print(out_, "host: {} {} {}\n", key ? *key : "nil", choice ? *choice : "nil",
+             answer.granted() ? "granted" : "refused");
+}
+
+void ScriptRunner::willAnnounce(const OptionChoice &change) {
+  fmt::print(out_, "announce: {} {}\n", change.key, change.choice);
+}
+
+void ScriptRunner::writeLine(std::string_view line) {
+  fmt::print(out_, "| {}\n", line);
+}
+
+std::string ScriptRunner::perform(const std::vector<Word> &words) {
+  const std::string name = nameOf(words.front());
+  if (const Command *command = find(kCommands, name)) {
+    checkCount(words, command->least, command->most);
+    return (this->*command->run)(words);
+  }
+  const auto point = name.find('.');
+  if (point == name.npos) throw Error(fmt::format("unknown command \"{}\"", name));
+  const std::string target = name.substr(0, point);
+  const std::string operation = name.substr(point + 1);
+  if (target == "plugin") {
+    const Command *found = find(kPlugInOperations, operation);
+    if (!found) throw Error(fmt::format("a plug-in has no operation \"{}\"", operation));
+    checkCount(words, found->least, found->most);
+    return (this->*found->run)(words);
+  }
+  Panel &found = panel(target);
+  const PanelCall *row = findPanelCall(operation);
+  if (!row) throw Error(fmt::format("a panel has no operation \"{}\"", operation));
+  checkCount(words, row->words, row->words);
+  return row->call(found, words);
+}
+
+Extension &ScriptRunner::extension() {
+  if (!extension_) throw Error("the plug-in has been released");
+  return *extension_;
+}
+
+const PanelList *ScriptRunner::panels() const {
+  return extension_ ? extension_->panels() : nullptr;
+}
+
+Panel &ScriptRunner::panel(std::string_view word) const {
+  if (panels())
+    for (const auto &panel : *panels())
+      if (wordOf(*panel) == word) return *panel;
+  const auto words = panelWords(module_);
+  if (words.empty() || std::find(words.begin(), words.end(), word) != words.end())
+    throw Error(fmt::format("there is no {} panel", word));
+  throw Error(fmt::format("\"{}\" is not a panel: {} or {}", word,
+                          fmt::join(words.begin(), words.end() - 1, ", "), words.back()));
+}
+
+template <class Control>
+Control &ScriptRunner::control(const Word &word, std::string_view kind) const {
+  const std::string name = nameOf(word);
+  const auto point = std::min(name.find('.'), name.size());
+  const PanelInspector *inspector = inspectorOf(panel(name.substr(0, point)));
+  View *const view =
+      inspector ? inspector->control(name.substr(std::min(point + 1, name.size()))) : nullptr;
+  if (!view) throw Error(fmt::format("there is no control {}", name));
+  auto *control = dynamic_cast<Control *>(view);
+  if (!control) throw Error(fmt::format("{} is not a {}", name, kind));
+  if (!control->isEnabled()) throw Error(fmt::format("{} is disabled", name));
+  return *control;
+}
+
+std::string ScriptRunner::pick(const std::vector<Word> &words) {
+  auto &popUp = control<PopUpButton>(words[1], "pop-up menu");
+  const int index = number<int>(words[2]);
+  const Menu *menu = popUp.menu();
+  if (!menu || !menu->itemAtIndex(index))
+    throw Error(fmt::format("{} has no item {}", *words[1], index));
+  if (!user_.pick(popUp, index)) throw Error(fmt::format("{} cannot be picked from", *words[1]));
+  return "void";
+}
+
+std::string ScriptRunner::slide(const std::vector<Word> &words) {
+  auto &slider = control<Slider>(words[1], "slider");
+  if (!user_.slide(slider, number<double>(words[2])))
+    throw Error(fmt::format("{} cannot be moved", *words[1]));
+  return "void";
+}
+
+std::string ScriptRunner::type(const std::vector<Word> &words) {
+  auto &field = control<TextField>(words[1], "field");
+  if (!words[2]) throw Error("nil cannot be typed");
+  if (!user_.type(field, *words[2])) throw Error(fmt::format("{} cannot be typed into", *words[1]));
+  return "void";
+}
+
+std::string ScriptRunner::showControls(const std::vector<Word> &words) {
+  if (const PanelInspector *inspector = inspectorOf(panel(nameOf(words[1]))))
+    for (const auto &[outlet, control] : inspector->controls())
+      fmt::print(out_, "{} = {}\n", outlet, stateText(control));
+  return "void";
+}
+
+std::string ScriptRunner::mark(const std::vector<Word> &words) {
+  return yesOrNo(words[1] && words[2] && session_->mark(*words[1], *words[2]));
+}
+
+std::string ScriptRunner::refuse(const std::vector<Word> &words) {
+  const std::string word = nameOf(words[1]);
+  if (word != "on" && word != "off") throw Error("refuse takes on or off");
+  session_->refuseAll(word == "on");
+  return "void";
+}
+
+std::string ScriptRunner::showMarked(const std::vector<Word> &words) {
+  if (words.size() > 1) {
+    const auto choice = words[1] ? session_->markedChoice(*words[1]) : std::nullopt;
+    return choice ? quoted(*choice) : "nil";
+  }
+  if (panels())
+    for (const auto &panel : *panels())
+      for (const PanelOption &option : optionsOf(*panel)) {
+        if (!ppdFindOption(session_->ppdFile(), option.key.c_str())) continue;
+        fmt::print(out_, "{} = {}\n", option.key,
+                   session_->markedChoice(option.key).value_or("nil"));
+      }
+  return "void";
+}
+
+std::string ScriptRunner::release(const std::vector<Word> &) {
+  extension();
+  extension_.reset();
+  return "void";
+}
+
+}  // namespace kwopde::host

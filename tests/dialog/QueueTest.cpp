@@ -1,0 +1,272 @@
+// Real printing to the queues of a private CUPS server; scripts/with-cups runs this program.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <signal.h>
+
+#include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPrintEngine>
+#include <QPrinter>
+#include <QPushButton>
+#include <QSlider>
+#include <QTabWidget>
+#include <QTimer>
+#include <fstream>
+#include <iomanip>
+#include <sstream>
+
+#include "attach/kwopde/attach.h"
+#include "dialog/ModuleLoader.h"
+#include "dialog/QueueDialog.h"
+#include "host/Error.h"
+#include "host/PrintJob.h"
+#include "host/PrintQueue.h"
+#include "tests/support/TestPpd.h"
+
+namespace kwopde::test {
+namespace {
+
+using host::CupsConnection;
+using host::PrintQueue;
+using testing::HasSubstr;
+
+std::string folder() {
+  return qEnvironmentVariable("KWOPDE_CUPS").toStdString();
+}
+
+/// A document of `size` bytes that no filter can convert unless it begins with `start`.
+std::string document(const std::string &name, const std::string &start, std::size_t size = 0) {
+  std::string path = testing::TempDir() + name;
+  std::ofstream file(path);
+  file << start << std::string(size, 'x');
+  return path;
+}
+
+std::string contents(const std::string &path) {
+  std::ostringstream text;
+  text << std::ifstream(path).rdbuf();
+  return text.str();
+}
+
+/// The value of a job's attribute on the server; empty when it has none.
+std::string attribute(int job, const char *name) {
+  const CupsConnection server;
+  ipp_t *request = ippNewRequest(IPP_OP_GET_JOB_ATTRIBUTES);
+  ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "job-uri", nullptr,
+               ("ipp://localhost/jobs/" + std::to_string(job)).c_str());
+  ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr,
+               cupsUser());
+  ipp_t *response = cupsDoRequest(server.get(), request, "/");
+  char text[256] = "";
+  if (ipp_attribute_t *found = ippFindAttribute(response, name, IPP_TAG_ZERO))
+    ippAttributeString(found, text, sizeof text);
+  ippDelete(response);
+  return text;
+}
+
+TEST(Queue, JobCarriesItsOptionsAndDocuments) {
+  const std::string first = document("first.txt", "first ", 200000);
+  const std::string second = document("second.txt", "second");
+  long long last = 0;
+  const auto id =
+      host::send({"kwo-1200", "Title", {first, second}, {{"pageScale", "85"}, {"copies", "2"}}},
+                 [&](long long sent, long long total) {
+                   EXPECT_GT(sent, last);
+                   EXPECT_EQ(total, 200012);
+                   last = sent;
+                   return true;
+                 });
+  ASSERT_TRUE(id);
+  EXPECT_EQ(last, 200012);
+  EXPECT_EQ(attribute(*id, "job-name"), "Title");
+  EXPECT_EQ(attribute(*id, "pageScale"), "85");
+  EXPECT_EQ(attribute(*id, "copies"), "2");
+  EXPECT_EQ(attribute(*id, "imageGamma"), "");
+  std::ostringstream spooled;
+  spooled << folder() << "/spool/d" << std::setw(5) << std::setfill('0') << *id;
+  EXPECT_EQ(contents(spooled.str() + "-001"), contents(first));
+  EXPECT_EQ(contents(spooled.str() + "-002"), contents(second));
+}
+
+TEST(Queue, JobThatIsNotSentWholeIsCancelledOnTheServer) {
+  const std::string large = document("large.txt", "text", 3000000);
+  EXPECT_FALSE(
+      host::send({"kwo-1200", "Cancelled", {large}, {}}, [](auto, auto) { return false; }));
+  const auto next = host::send({"kwo-1200", "Next", {large}, {}}, [](auto, auto) { return true; });
+  EXPECT_EQ(attribute(*next - 1, "job-name"), "Cancelled");
+  EXPECT_EQ(attribute(*next - 1, "job-state"), "canceled");
+}
+
+TEST(Queue, SaysWhatIsInTheWay) {
+  const auto why = [](auto &&act) -> std::string {
+    try {
+      act();
+    } catch (const host::Error &error) {
+      return error.what();
+    }
+    return {};
+  };
+  const auto always = [](auto, auto) { return true; };
+  EXPECT_THAT(why([] { PrintQueue("nowhere"); }), HasSubstr("there is no printer nowhere"));
+  EXPECT_THAT(why([&] {
+                host::send({"kwo-1200", "", {"/nope"}, {}}, always);
+              }),
+              "/nope: No such file or directory");
+  EXPECT_THAT(why([&] {
+                host::send({"nowhere", "", {document("a.txt", "a")}, {}}, always);
+              }),
+              HasSubstr("nowhere took no job"));
+  ASSERT_EQ(std::system("/usr/sbin/cupsreject kwo-basic"), 0);
+  EXPECT_THAT(why([&] {
+                host::send({"kwo-basic", "", {document("a.txt", "a")}, {}}, always);
+              }),
+              testing::MatchesRegex("the printer kwo-basic took no job: .*not accepting jobs.*"));
+}
+
+TEST(Queue, SavedOptionsOfTheUserAreMarked) {
+  cups_dest_t *dest = cupsGetNamedDest(nullptr, "kwo-1200", nullptr);
+  dest->num_options = cupsAddOption("pageScale", "85", dest->num_options, &dest->options);
+  cupsSetDests2(nullptr, 1, dest);
+  EXPECT_EQ(PrintQueue("kwo-1200").openSession()->markedChoice("pageScale"), "85");
+  dest->num_options = cupsRemoveOption("pageScale", dest->num_options, &dest->options);
+  cupsSetDests2(nullptr, 1, dest);
+  cupsFreeDests(1, dest);
+  EXPECT_EQ(PrintQueue("").name(), "kwo-7032");
+}
+
+TEST(Queue, ResolvedConflictsAndCustomValuesReachTheServer) {
+  const std::string ppd = document(
+      "custom.ppd",
+      ppdText(option("quality", "Quality", "Fine", {{"Fine", "Fine"}, {"Draft", "Draft"}}) +
+              option("dust", "Dust", "Off", {{"Off", "Off"}, {"On", "On"}}) +
+              "*UIConstraints: *quality Draft *dust On\n*UIConstraints: *dust On *quality Draft\n" +
+              option("scale", "Scale", "100", {{"100", "100"}}) +
+              "*Customscale True: \"pop\"\n*ParamCustomscale Scale/Percent: 1 int 10 400\n"));
+  const std::string add = "/usr/sbin/lpadmin -p custom -E -v file:/dev/null -P " + ppd;
+  ASSERT_EQ(std::system((add + " 2>/dev/null").c_str()), 0);
+  const auto session = PrintQueue("custom").openSession();
+  const auto ask = [&](const std::string &key, const std::string &choice) {
+    return session->willChangePPDOptionKeyValue(&key, &choice);
+  };
+  EXPECT_TRUE(ask("dust", "On") && ask("quality", "Draft") && ask("scale", "123"));
+  const auto id = host::send({"custom", "", {document("a.txt", "a")}, session->changedChoices()},
+                             [](auto, auto) { return true; });
+  EXPECT_EQ(attribute(*id, "quality"), "Draft");
+  EXPECT_EQ(attribute(*id, "dust"), "");
+  EXPECT_EQ(attribute(*id, "scale"), "Custom.123");
+}
+
+class QtDialog : public testing::Test {
+protected:
+  static QStringList options(QPrinter &printer) {
+    return printer.printEngine()
+        ->property(QPrintEngine::PrintEnginePropertyKey(0xfe00))
+        .toStringList();
+  }
+  static QStringList tabs(QPrintDialog &dialog) {
+    auto *tabs = dialog.findChild<QTabWidget *>();
+    QStringList titles;
+    for (int i = 2; i < tabs->count(); ++i) titles.append(tabs->tabText(i));
+    return titles;
+  }
+  static void open(QPrintDialog &dialog, int tab) {
+    dialog.show();
+    host::expandOptions(dialog);
+    dialog.findChild<QTabWidget *>()->setCurrentIndex(tab);
+    QApplication::processEvents();
+  }
+  void SetUp() override { printer_.setPrinterName("kwo-7032"); }
+
+  QPrinter printer_;
+};
+
+TEST_F(QtDialog, ShowsThePanelsOfTheChosenPrinter) {
+  QPrintDialog dialog(&printer_);
+  attachPanels(&dialog);
+  auto *printers = dialog.findChild<QComboBox *>("printers");
+  EXPECT_EQ(tabs(dialog), QStringList({"Media", "Color", "Sharpen", "Summary"}));
+  open(dialog, 2);
+  printers->setCurrentText("kwo-basic");
+  EXPECT_EQ(tabs(dialog), QStringList({"Media", "Color", "Summary"}));
+  printers->setCurrentIndex(printers->count() - 1);  // a PDF file
+  EXPECT_TRUE(tabs(dialog).isEmpty());
+  dialog.accept();
+  EXPECT_FALSE(options(printer_).contains("pageScale"));
+}
+
+TEST_F(QtDialog, TwoDialogsOfOneQueueKeepTheirSettingsApart) {
+  QPrinter other;
+  other.setPrinterName("kwo-7032");
+  QPrintDialog first(&printer_);
+  QPrintDialog second(&other);
+  attachPanels(&first);
+  attachPanels(&second);
+  open(first, 2);
+  open(second, 3);
+  first.findChild<QLineEdit *>("pageScaleEdit")->setText("85");
+  second.findChild<QSlider *>("gammaSlider")->setSliderPosition(1789);
+  first.accept();
+  second.accept();
+  const QStringList a = options(printer_);
+  const QStringList b = options(other);
+  EXPECT_EQ(a.value(a.indexOf("pageScale") + 1), "85");
+  EXPECT_FALSE(a.contains("imageGamma"));
+  EXPECT_EQ(b.value(b.indexOf("imageGamma") + 1), "1.780000");
+  EXPECT_FALSE(b.contains("pageScale"));
+}
+
+TEST_F(QtDialog, SendsWhatWasSet) {
+  host::QueueDialog dialog(host::loadModule(), printer_,
+                           {QString::fromStdString(document("photo.txt", "photo"))});
+  open(dialog, 4);
+  dialog.findChild<QLineEdit *>("amountLabel")->setText("20");
+  printer_.setCopyCount(3);
+  dialog.accept();
+  ASSERT_TRUE(dialog.jobId());
+  EXPECT_EQ(attribute(*dialog.jobId(), "sharpnessAmount"), "20");
+  EXPECT_EQ(attribute(*dialog.jobId(), "job-name"), "photo.txt");
+  EXPECT_EQ(attribute(*dialog.jobId(), "pageScale"), "");
+}
+
+TEST_F(QtDialog, StaysOpenWithItsSettingsWhenPrintingFails) {
+  ASSERT_EQ(std::system("/usr/sbin/cupsreject kwo-7032"), 0);
+  const std::string path = document("retried.txt", "text");
+  host::QueueDialog dialog(host::loadModule(), printer_, {QString::fromStdString(path)});
+  open(dialog, 2);
+  dialog.findChild<QLineEdit *>("pageScaleEdit")->setText("85");
+  QStringList messages;
+  const auto answer = [&](QMessageBox::StandardButton button) {
+    QTimer::singleShot(0, &dialog, [&messages, button] {
+      auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+      if (!box) return;
+      messages.append(box->text());
+      box->button(button)->click();
+    });
+  };
+  answer(QMessageBox::Close);
+  dialog.accept();
+  EXPECT_TRUE(dialog.isVisible());
+  EXPECT_EQ(dialog.findChild<QLineEdit *>("pageScaleEdit")->text(), "85");
+  ASSERT_EQ(messages.size(), 1);
+  EXPECT_TRUE(messages[0].contains("not accepting jobs")) << messages[0].toStdString();
+
+  ASSERT_EQ(std::system("/usr/sbin/cupsaccept kwo-7032"), 0);
+  answer(QMessageBox::Close);
+  dialog.accept();
+  ASSERT_TRUE(dialog.jobId());
+  EXPECT_EQ(attribute(*dialog.jobId(), "pageScale"), "85");
+}
+
+// Last, since there is no server afterwards.
+TEST(ServerGone, IsReportedInTheMiddleOfADocument) {
+  const std::string large = document("large.txt", "text", 30000000);
+  const int pid = std::stoi(contents(folder() + "/cupsd.pid"));
+  const auto kill = [&](long long, long long) { return ::kill(pid, SIGKILL) == 0 || true; };
+  EXPECT_THROW(host::send({"kwo-1200", "", {large}, {}}, kill), host::JobError);
+  EXPECT_THROW(PrintQueue("kwo-1200"), host::JobError);
+}
+
+}  // namespace
+}  // namespace kwopde::test

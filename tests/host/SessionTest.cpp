@@ -1,0 +1,183 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <fstream>
+
+#include "host/Error.h"
+#include "host/PpdSession.h"
+#include "tests/support/TestPpd.h"
+
+namespace kwopde::test {
+namespace {
+
+using host::Error;
+using host::PpdFile;
+using host::PpdSession;
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+std::string written(const std::string &name, const std::string &text) {
+  std::string path = testing::TempDir() + name;
+  std::ofstream(path) << text;
+  return path;
+}
+
+std::string whyNot(const std::string &path) {
+  try {
+    PpdFile::open(path);
+  } catch (const Error &error) {
+    return error.what();
+  }
+  return "opened";
+}
+
+TEST(PpdFile, SaysWhichFileAndLineCannotBeRead) {
+  EXPECT_EQ(whyNot("/nonexistent.ppd"), "/nonexistent.ppd: No such file or directory");
+  EXPECT_EQ(whyNot("/etc"), "/etc: Is a directory");
+  EXPECT_THAT(whyNot(written("empty.ppd", "")), HasSubstr("empty.ppd:"));
+  EXPECT_THAT(whyNot(written("bad.ppd", ppdText("*" + std::string(60, 'x') + ": 1\n"))),
+              testing::MatchesRegex(".*bad.ppd:[0-9]+: .+"));
+}
+
+TEST(PpdSession, MarksWhatIsListedAndRefusesTheRest) {
+  PpdSession session(PpdFile::open(written("media.ppd", ppdText(kMediaOptions))));
+  const std::string key = "pageScale";
+  const std::string listed = "85";
+  const std::string unlisted = "86";
+  const std::string unknown = "nothing";
+  EXPECT_FALSE(session.willChangePPDOptionKeyValue(&key, &unlisted));
+  EXPECT_FALSE(session.willChangePPDOptionKeyValue(&unknown, &listed));
+  EXPECT_FALSE(session.willChangePPDOptionKeyValue(nullptr, &listed));
+  EXPECT_FALSE(session.willChangePPDOptionKeyValue(&key, nullptr));
+  EXPECT_EQ(session.markedChoice(key), "100");
+  EXPECT_TRUE(session.changedChoices().empty());
+  EXPECT_TRUE(session.willChangePPDOptionKeyValue(&key, &listed));
+  session.refuseAll(true);
+  EXPECT_FALSE(session.willChangePPDOptionKeyValue(&key, &listed));
+  ASSERT_EQ(session.changedChoices().size(), 1u);
+  EXPECT_EQ(session.changedChoices()[0].key, "pageScale");
+  EXPECT_EQ(session.changedChoices()[0].choice, "85");
+  EXPECT_TRUE(session.mark("mirrorImage", "Horizontal"));
+  EXPECT_FALSE(session.mark("mirrorImage", "Diagonal"));
+  EXPECT_EQ(session.markedChoice("nothing"), std::nullopt);
+}
+
+class Announced final : public host::SessionObserver {
+public:
+  void requestWasAnswered(const std::string *, const std::string *,
+                          const host::Answer &answer) override {
+    last = answer.reason;
+  }
+  void willAnnounce(const host::OptionChoice &change) override {
+    all.push_back(change.key + "=" + change.choice);
+  }
+  host::Answer::Reason last{};
+  std::vector<std::string> all;
+};
+
+struct SessionOn {
+  explicit SessionOn(const std::string &options)
+      : session(PpdFile::open(written("session.ppd", ppdText(options)))) {
+    session.addObserver(&announced);
+  }
+  bool request(const std::string &key, const std::string &choice) {
+    announced.all.clear();
+    return session.willChangePPDOptionKeyValue(&key, &choice);
+  }
+  std::string marked(const std::string &key) { return session.markedChoice(key).value_or("nil"); }
+
+  Announced announced;
+  PpdSession session;
+};
+
+const std::string kConstrained =
+    option("quality", "Quality", "Fine", {{"Fine", "Fine"}, {"Draft", "Quick"}}) +
+    option("finish", "Finish", "Glossy", {{"Glossy", "Glossy"}, {"Matte", "Matte"}}) +
+    option("duplex", "Duplex", "Off", {{"Off", "Off"}, {"On", "On"}});
+
+TEST(Constraints, OtherOptionsGiveWayAndAreAnnounced) {
+  for (const std::string rule : {"*UIConstraints: *quality Draft *finish Matte\n*UIConstraints: "
+                                 "*finish Matte *quality Draft\n",
+                                 "*cupsUIConstraints rule: \"*quality Draft *finish Matte\"\n"
+                                 "*cupsUIResolver rule: \"*finish Glossy\"\n"}) {
+    SessionOn on(kConstrained + rule);
+    EXPECT_TRUE(on.request("finish", "Matte"));
+    EXPECT_TRUE(on.announced.all.empty());
+    EXPECT_TRUE(on.request("quality", "Draft"));
+    EXPECT_THAT(on.announced.all, ElementsAre("finish=Glossy"));
+    EXPECT_EQ(on.marked("finish"), "Glossy");
+    EXPECT_EQ(on.marked("quality"), "Draft");
+  }
+}
+
+TEST(Constraints, UnresolvableRequestsAreRefusedAndChangeNothing) {
+  // The installed hardware decides, and it cannot be changed from here.
+  SessionOn on(kConstrained + "*OpenGroup: InstallableOptions/Installed\n" +
+               option("unit", "Duplexer", "False", {{"False", "No"}, {"True", "Yes"}}) +
+               "*CloseGroup: InstallableOptions\n*UIConstraints: *duplex On *unit False\n"
+               "*UIConstraints: *unit False *duplex On\n");
+  EXPECT_FALSE(on.request("duplex", "On"));
+  EXPECT_EQ(on.announced.last, host::Answer::Reason::conflict);
+  EXPECT_EQ(on.marked("duplex"), "Off");
+  EXPECT_TRUE(on.request("quality", "Draft"));
+}
+
+TEST(Constraints, ConflictsOfOthersAreNotTheRequests) {
+  SessionOn on(kConstrained +
+               "*UIConstraints: *duplex Off *finish Glossy\n"
+               "*UIConstraints: *finish Glossy *duplex Off\n");
+  EXPECT_TRUE(on.request("quality", "Draft"));
+  EXPECT_EQ(on.marked("finish"), "Glossy");
+  EXPECT_TRUE(on.announced.all.empty());
+}
+
+TEST(CustomValues, NumbersAreListedInAnySpellingOrInsideTheLimits) {
+  SessionOn on(option("scale", "Scale", "100", {{"85", "85"}, {"100", "100"}, {"2.2", "2.2"}}) +
+               "*Customscale True: \"pop\"\n*ParamCustomscale Scale/Percent: 1 int 10 400\n" +
+               option("gamma", "Gamma", "1", {{"1", "1"}}) +
+               "*Customgamma True: \"pop\"\n*ParamCustomgamma Gamma/Gamma: 1 real 0.1 3.0\n" +
+               option("width", "Width", "1", {{"1", "1"}}) +
+               "*Customwidth True: \"pop\"\n*ParamCustomwidth Width/Width: 1 points 1 72\n");
+  const struct {
+    const char *key;
+    const char *request;
+    const char *marked;  // null: refused
+  } rows[] = {{"scale", "+85", "85"},
+              {"scale", "2.200000", "2.2"},
+              {"scale", "123", "Custom.123"},
+              {"scale", "9", nullptr},
+              {"scale", "401", nullptr},
+              {"scale", "12.5", nullptr},
+              {"scale", "12x", nullptr},
+              {"gamma", "0.1", "Custom.0.1"},
+              {"gamma", "3.000000", "Custom.3.000000"},
+              {"gamma", "3.01", nullptr},
+              {"width", "72", "Custom.72"},
+              {"width", "nan", nullptr},
+              {"gamma", "Custom.2.5", "Custom.2.5"}};
+  for (const auto &row : rows) {
+    const std::string before = on.marked(row.key);
+    EXPECT_EQ(on.request(row.key, row.request), row.marked != nullptr) << row.request;
+    EXPECT_EQ(on.marked(row.key), row.marked ? row.marked : before) << row.request;
+  }
+  // A panel reads the number back from the text of the marked choice.
+  EXPECT_TRUE(on.request("scale", "123"));
+  EXPECT_STREQ(ppdFindMarkedChoice(on.session.ppdFile(), "scale")->text, "123");
+  EXPECT_TRUE(on.session.mark("scale", "50"));
+  EXPECT_THAT(on.announced.all, ElementsAre("scale=50"));
+  EXPECT_TRUE(on.request("scale", "85"));
+  EXPECT_STREQ(ppdFindChoice(ppdFindOption(on.session.ppdFile(), "scale"), "Custom")->text,
+               "Custom");
+  EXPECT_FALSE(on.request("scale", "900"));
+  EXPECT_EQ(on.announced.last, host::Answer::Reason::outsideLimits);
+}
+
+TEST(PpdFile, TrimsTextsThatWereCutInTheMiddleOfACharacter) {
+  const std::string cut = std::string(79, 'x') + "\u00e9\u00e9";
+  SessionOn on(option("a", cut, "A", {{"A", cut}}));
+  EXPECT_EQ(on.session.ppd().textOf("a"), std::string(79, 'x'));
+  EXPECT_EQ(on.session.ppd().textOf("a", "A"), std::string(79, 'x'));
+}
+
+}  // namespace
+}  // namespace kwopde::test
