@@ -15,8 +15,8 @@ namespace kwopde::app {
 
 namespace {
 
-using host::Finding;
-using host::PpdReport;
+using check::Finding;
+using check::PpdReport;
 
 void printText(const PpdReport &report) {
   fmt::print(
@@ -26,7 +26,7 @@ void printText(const PpdReport &report) {
     const std::string where =
         finding.line > 0 ? fmt::format("{}:{}", report.file, finding.line) : report.file;
     const std::string about = finding.option.empty() ? "" : finding.option + ": ";
-    fmt::print("{}: {}: {}{}; {}\n", where, host::nameOf(finding.severity), about, finding.message,
+    fmt::print("{}: {}: {}{}; {}\n", where, check::nameOf(finding.severity), about, finding.message,
                finding.advice);
   }
 }
@@ -34,7 +34,7 @@ void printText(const PpdReport &report) {
 nlohmann::json toJson(const PpdReport &report) {
   auto findings = nlohmann::json::array();
   for (const Finding &finding : report.findings)
-    findings.push_back({{"severity", host::nameOf(finding.severity)},
+    findings.push_back({{"severity", check::nameOf(finding.severity)},
                         {"option", finding.option},
                         {"line", finding.line},
                         {"message", finding.message},
@@ -48,12 +48,12 @@ struct CheckOptions {
 };
 
 int check(const CheckOptions &options) {
-  PlugInModule &module = host::loadModule();
+  PlugInModule &module = dialog::loadModule();
   int status = kDone;
   auto reports = nlohmann::json::array();
   for (const std::string &ppd : options.ppds) {
     try {
-      const PpdReport report = host::checkPpd(module, ppd);
+      const PpdReport report = check::checkPpd(module, ppd);
       if (options.json)
         reports.push_back(toJson(report));
       else

@@ -34,7 +34,7 @@ struct DialogOptions {
 bool runDialog(QDialog &dialog, const std::string &snapshotFolder) {
   if (snapshotFolder.empty()) return dialog.exec() == QDialog::Accepted;
   dialog.show();
-  for (const QString &file : host::takePictures(dialog, QString::fromStdString(snapshotFolder)))
+  for (const QString &file : dialog::takePictures(dialog, QString::fromStdString(snapshotFolder)))
     fmt::print(stderr, "wrote {}\n", file.toStdString());
   dialog.accept();
   return dialog.result() == QDialog::Accepted;
@@ -42,13 +42,13 @@ bool runDialog(QDialog &dialog, const std::string &snapshotFolder) {
 
 int ppdDialog(const DialogOptions &options) {
   auto session = std::make_shared<host::PpdSession>(host::PpdFile::open(options.ppd));
-  PlugInModule &module = host::loadModule();
+  PlugInModule &module = dialog::loadModule();
   const auto sink = openTrace(options.trace);
   const host::TraceTo trace(module, sink.get());
   QStringList names;
   for (const std::string &document : options.documents)
     names.append(QFileInfo(QString::fromStdString(document)).fileName());
-  host::PpdDialog dialog(module, session, names.join(", "));
+  dialog::PpdDialog dialog(module, session, names.join(", "));
   if (!runDialog(dialog, options.snapshotFolder)) return kNotDone;
   printChoices(session->changedChoices());
   return kDone;
@@ -57,7 +57,7 @@ int ppdDialog(const DialogOptions &options) {
 int queueDialog(const DialogOptions &options) {
   const host::PrintQueue queue(options.printer);
   queue.openSession();  // says what is wrong with its PPD before anything opens
-  PlugInModule &module = host::loadModule();
+  PlugInModule &module = dialog::loadModule();
   const auto sink = openTrace(options.trace);
   const host::TraceTo trace(module, sink.get());
   QPrinter printer;
@@ -65,7 +65,7 @@ int queueDialog(const DialogOptions &options) {
   QStringList documents;
   for (const std::string &document : options.documents)
     documents.append(QString::fromStdString(document));
-  host::QueueDialog dialog(module, printer, documents);
+  dialog::QueueDialog dialog(module, printer, documents);
   if (!runDialog(dialog, options.snapshotFolder)) return kNotDone;
   printChoices(dialog.job().options);
   if (dialog.jobId()) reportSent(dialog.job(), *dialog.jobId());

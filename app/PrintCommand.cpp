@@ -61,12 +61,12 @@ int print(const PrintOptions &options) {
 
   if (!options.script.empty()) {
     ScriptSource script(options.script);
-    PlugInModule &module = host::loadModule();
+    PlugInModule &module = dialog::loadModule();
     const auto sink = openTrace(options.trace);
     const host::TraceTo trace(module, sink.get());
     qt::QtUserInput user;
     std::ostream transcript(nullptr);  // discarded: print tells of the job only
-    if (!host::ScriptRunner(module, session, user, transcript, std::cerr).run(script.stream()))
+    if (!script::ScriptRunner(module, session, user, transcript, std::cerr).run(script.stream()))
       return kNotDone;
   }
 

@@ -26,10 +26,10 @@ int run(const RunOptions &options) {
   auto session = std::make_shared<host::PpdSession>(host::PpdFile::open(options.ppd),
                                                     !options.noConstraintHandling);
   ScriptSource script(options.script);
-  PlugInModule &module = host::loadModule();
+  PlugInModule &module = dialog::loadModule();
   qt::QtUserInput user;
   const auto sink = options.trace.empty() ? nullptr : openTrace(options.trace);
-  host::ScriptRunner runner(module, session, user, std::cout, std::cerr);
+  script::ScriptRunner runner(module, session, user, std::cout, std::cerr);
   const host::TraceTo trace(module, sink ? sink.get() : &runner);
   return runner.run(script.stream()) ? kDone : kNotDone;
 }

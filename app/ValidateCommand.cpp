@@ -78,7 +78,7 @@ private:
 class Bench {
 public:
   explicit Bench(const ValidateOptions &options)
-      : subject{host::loadModule(QString::fromStdString(options.module)), user_,
+      : subject{dialog::loadModule(QString::fromStdString(options.module)), user_,
                 options.ppd.empty() ? ppds_.path("kwo-7032.ppd") : options.ppd,
                 ppds_.path("no-panels.ppd")} {}
 
@@ -87,7 +87,7 @@ private:
   qt::QtUserInput user_;
 
 public:
-  const host::Subject subject;
+  const check::Subject subject;
 };
 
 std::string scriptPath(const std::string &folder, std::uint64_t seed) {
@@ -98,10 +98,10 @@ Result judge(std::string name, std::string promise, const std::function<void(Res
   Result result{std::move(name), std::move(promise), Result::Outcome::pass, {}, 0};
   try {
     run(result);
-  } catch (const host::CheckFailed &failure) {
+  } catch (const check::CheckFailed &failure) {
     result.outcome = Result::Outcome::fail;
     result.what = failure.what();
-  } catch (const host::NothingToCheck &nothing) {
+  } catch (const check::NothingToCheck &nothing) {
     result.outcome = Result::Outcome::none;
     result.what = nothing.what();
   }
@@ -109,16 +109,16 @@ Result judge(std::string name, std::string promise, const std::function<void(Res
 }
 
 /// Runs the sessions, and leaves the script of the last one in the folder `options.keep`.
-Result runSessions(const ValidateOptions &options, const host::Subject &subject) {
+Result runSessions(const ValidateOptions &options, const check::Subject &subject) {
   return judge(kSessions, "random calls hold every invariant", [&](Result &result) {
-    const host::Vocabulary vocabulary = host::vocabularyOf(subject);
+    const check::Vocabulary vocabulary = check::vocabularyOf(subject);
     for (int i = 0; i < options.sessions; ++i) {
       const std::uint64_t seed = options.seed + static_cast<unsigned>(i);
       const std::string path = scriptPath(options.keep, seed);
       {
         // Written before it is run, so that it is there after a crash.
         std::ofstream log(path);
-        result.calls += host::runSession(subject, host::randomScript(vocabulary, seed), log);
+        result.calls += check::runSession(subject, check::randomScript(vocabulary, seed), log);
       }
       QFile::remove(QString::fromStdString(path));
     }
@@ -129,7 +129,7 @@ Result runSessions(const ValidateOptions &options, const host::Subject &subject)
 std::vector<Result> runHere(const ValidateOptions &options) {
   const Bench bench(options);
   std::vector<Result> results;
-  for (const host::Check &check : host::checks())
+  for (const check::Check &check : check::checks())
     if (options.only.empty() || options.only == check.name)
       results.push_back(judge(std::string(check.name), std::string(check.promise),
                               [&](Result &) { check.run(bench.subject); }));
@@ -194,7 +194,7 @@ std::vector<Result> runAllApart(ValidateOptions options) {
   QTemporaryDir folder;
   if (options.keep.empty()) options.keep = folder.path().toStdString();
   std::vector<Result> results;
-  for (const host::Check &check : host::checks())
+  for (const check::Check &check : check::checks())
     if (options.only.empty() || options.only == check.name)
       results.push_back(runApart(options, std::string(check.name), std::string(check.promise)));
   if (options.only.empty() || options.only == kSessions) {
@@ -233,7 +233,7 @@ void print(const std::vector<Result> &results, bool json) {
 }
 
 void list() {
-  for (const host::Check &check : host::checks())
+  for (const check::Check &check : check::checks())
     fmt::print("{:26} {}\n", check.name, check.promise);
   fmt::print("{:26} {}\n", kSessions, "random calls hold every invariant");
 }
@@ -247,8 +247,8 @@ int validate(ValidateOptions options) {
   if (options.script) {
     try {
       fmt::print("{}",
-                 host::randomScript(host::vocabularyOf(Bench(options).subject), options.seed));
-    } catch (const host::NothingToCheck &nothing) {
+                 check::randomScript(check::vocabularyOf(Bench(options).subject), options.seed));
+    } catch (const check::NothingToCheck &nothing) {
       throw host::Error(nothing.what());
     }
     return kDone;

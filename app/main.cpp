@@ -31,7 +31,7 @@ int run(const Command &command, char **argv) {
   QApplication application(argc, argv);
   QApplication::setApplicationName("kwopde");
   QApplication::setApplicationVersion(KWOPDE_VERSION);
-  kwopde::host::installTranslations();
+  kwopde::dialog::installTranslations();
   return command.run();
 }
 

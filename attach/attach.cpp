@@ -13,10 +13,10 @@ namespace kwopde {
 bool attachPanels(QPrintDialog *dialog) {
   if (!dialog) return false;
   try {
-    PlugInModule &module = host::loadModule();
-    host::installTranslations();
-    auto *panels = new host::PrintDialogPanels(module, *dialog);  // the dialog's
-    QObject::connect(dialog, &QDialog::accepted, panels, &host::PrintDialogPanels::settle);
+    PlugInModule &module = dialog::loadModule();
+    dialog::installTranslations();
+    auto *panels = new dialog::PrintDialogPanels(module, *dialog);  // the dialog's
+    QObject::connect(dialog, &QDialog::accepted, panels, &dialog::PrintDialogPanels::settle);
     return true;
   } catch (const host::Error &error) {
     qWarning("kwopde: %s", error.what());

@@ -282,7 +282,7 @@ void openDialog(bool withPanels, bool showsThem) {
   if (withPanels) attachPanels(&dialog);
   dialog.show();
   if (showsThem) {
-    host::expandOptions(dialog);
+    dialog::expandOptions(dialog);
     auto *tabs = dialog.findChild<QTabWidget *>();
     for (int i = 2; i < 5; ++i) {
       tabs->setCurrentIndex(i);

@@ -14,7 +14,7 @@
 #include "platform/PanelInspector.h"
 #include "script/PanelCalls.h"
 
-namespace kwopde::host {
+namespace kwopde::check {
 
 namespace {
 
@@ -25,7 +25,7 @@ void expect(bool holds, const std::string &what) {
 /// A host that counts what it is asked, and misbehaves as told.
 class ProbeHost final : public HostCallback {
 public:
-  explicit ProbeHost(const std::string &ppd) : session(PpdFile::open(ppd)) {}
+  explicit ProbeHost(const std::string &ppd) : session(host::PpdFile::open(ppd)) {}
 
   std::string_view className() const override { return "ProbeHost"; }
   ppd_file_t *ppdFile() override {
@@ -41,7 +41,7 @@ public:
     return session.willChangePPDOptionKeyValue(key, choice);
   }
 
-  PpdSession session;
+  host::PpdSession session;
   bool answersRequests = true;
   std::function<void()> duringRequest;
   int ppdFileCalls = 0;
@@ -82,17 +82,18 @@ public:
   TraceDepth trace;
 
 private:
-  TraceTo tracing_;
+  host::TraceTo tracing_;
 
 public:
   std::shared_ptr<ProbeHost> host;
-  std::optional<Extension> extension;
+  std::optional<host::Extension> extension;
 };
 
 /// Words for the operations that take some: a key and a choice.
-const std::vector<Word> kWords{Word(), Word("pageScale"), Word("85")};
+const std::vector<script::Word> kWords{script::Word(), script::Word("pageScale"),
+                                       script::Word("85")};
 
-void callAndFollow(Probe &probe, Panel &panel, const PanelCall &call) {
+void callAndFollow(Probe &probe, Panel &panel, const script::PanelCall &call) {
   const std::string result = call.call(panel, kWords);
   expect(
       call.result.empty() || result == call.result,
@@ -103,11 +104,11 @@ void callAndFollow(Probe &probe, Panel &panel, const PanelCall &call) {
 
 /// Calls every operation in the order of the contract and backwards, each twice.
 void callAll(Probe &probe, Panel &panel) {
-  const auto calls = panelCalls();
-  for (const PanelCall &call : calls)
+  const auto calls = script::panelCalls();
+  for (const script::PanelCall &call : calls)
     for (int twice = 0; twice < 2; ++twice) callAndFollow(probe, panel, call);
   std::for_each(calls.rbegin(), calls.rend(),
-                [&](const PanelCall &call) { callAndFollow(probe, panel, call); });
+                [&](const script::PanelCall &call) { callAndFollow(probe, panel, call); });
 }
 
 /// Works every control of the panel; returns how many took it.
@@ -318,4 +319,4 @@ std::span<const Check> checks() {
   return kChecks;
 }
 
-}  // namespace kwopde::host
+}  // namespace kwopde::check

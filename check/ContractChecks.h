@@ -9,7 +9,7 @@
 #include "platform/PlugIn.h"
 #include "platform/UserInput.h"
 
-namespace kwopde::host {
+namespace kwopde::check {
 
 /// What a check found wrong.
 class CheckFailed : public std::runtime_error {
@@ -42,4 +42,4 @@ struct Check {
 /// Returns every check, in a fixed order.
 std::span<const Check> checks();
 
-}  // namespace kwopde::host
+}  // namespace kwopde::check

@@ -19,7 +19,7 @@
 #include "platform/Numbers.h"
 #include "platform/PanelInspector.h"
 
-namespace kwopde::host {
+namespace kwopde::check {
 
 namespace {
 
@@ -68,14 +68,14 @@ public:
   Checker(PlugInModule &module, const std::string &path)
       : module_(module),
         lines_(path),
-        session_(std::make_shared<PpdSession>(PpdFile::openUntrimmed(path))) {
+        session_(std::make_shared<host::PpdSession>(host::PpdFile::openUntrimmed(path))) {
     report_.file = path;
   }
 
   PpdReport run() {
     NullSink sink;
-    const TraceTo trace(module_, &sink);
-    Extension extension(module_, session_);
+    const host::TraceTo trace(module_, &sink);
+    host::Extension extension(module_, session_);
     if (const PanelList *panels = extension.open())
       for (const auto &panel : *panels) checkPanel(*panel);
     checkMissingPanels();
@@ -171,7 +171,8 @@ private:
            "make a listed choice the default");
       return;
     }
-    for (const auto &[other, choice] : conflictsOf(session_->ppdFile(), option, option.defchoice))
+    for (const auto &[other, choice] :
+         host::conflictsOf(session_->ppdFile(), option, option.defchoice))
       find(Severity::error, key, lines_.defaultOf(key),
            fmt::format("its default, {}, conflicts with that of {}, {}", option.defchoice, other,
                        choice),
@@ -185,7 +186,8 @@ private:
     };
     for (int i = 0; i < option.num_choices; ++i) {
       const ppd_choice_t &choice = option.choices[i];
-      if (std::strcmp(choice.choice, kCustom) == 0 || read(choice.text) == read(choice.choice))
+      if (std::strcmp(choice.choice, host::kCustom) == 0 ||
+          read(choice.text) == read(choice.choice))
         continue;
       find(Severity::error, row.key, lines_.choice(row.key, choice.choice),
            fmt::format("the text of {} reads as {}, and the panel shows the text", choice.choice,
@@ -209,7 +211,7 @@ private:
       const std::string keyword = perUnit == 1
                                       ? fmt::format("{}", n)
                                       : fmt::format("{:.6f}", static_cast<double>(n) / perUnit);
-      if (findMarkable(session_->ppdFile(), option, keyword)) continue;
+      if (host::findMarkable(session_->ppdFile(), option, keyword)) continue;
       if (missing++ == 0) example = keyword;
     }
     if (missing > 0)
@@ -221,7 +223,7 @@ private:
 
   PlugInModule &module_;
   LineIndex lines_;
-  std::shared_ptr<PpdSession> session_;
+  std::shared_ptr<host::PpdSession> session_;
   PpdReport report_;
 };
 
@@ -241,4 +243,4 @@ std::string_view nameOf(Finding::Severity severity) {
   return kNames[static_cast<std::size_t>(severity)];
 }
 
-}  // namespace kwopde::host
+}  // namespace kwopde::check

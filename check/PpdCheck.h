@@ -6,7 +6,7 @@
 
 #include "platform/PlugIn.h"
 
-namespace kwopde::host {
+namespace kwopde::check {
 
 struct Finding {
   enum class Severity {
@@ -37,4 +37,4 @@ PpdReport checkPpd(PlugInModule &module, const std::string &file);
 /// "note", "warning" or "error".
 std::string_view nameOf(Finding::Severity severity);
 
-}  // namespace kwopde::host
+}  // namespace kwopde::check

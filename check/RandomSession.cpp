@@ -13,7 +13,7 @@
 #include "script/PanelCalls.h"
 #include "script/ScriptRunner.h"
 
-namespace kwopde::host {
+namespace kwopde::check {
 
 namespace {
 
@@ -28,7 +28,7 @@ class Generator {
 public:
   Generator(const Vocabulary &vocabulary, std::uint64_t seed)
       : vocabulary_(vocabulary), random_(seed) {
-    for (const PanelCall &call : panelCalls())
+    for (const script::PanelCall &call : script::panelCalls())
       if (call.words == 0) calls_.emplace_back(call.name);
     calls_.emplace_back("willShow");  // twice as often, since most happens to a shown panel
   }
@@ -90,7 +90,7 @@ private:
 
 /// Holds that every pop-up shows an item it has, and that `picked` ("media.printQualityPopUp";
 /// empty for none) shows what is marked.
-void checkPopUps(const PanelList *panels, PpdSession &session, std::string_view picked) {
+void checkPopUps(const PanelList *panels, host::PpdSession &session, std::string_view picked) {
   if (!panels) return;
   for (const auto &panel : *panels)
     for (const PanelOption &option : optionsOf(*panel)) {
@@ -112,10 +112,10 @@ void checkPopUps(const PanelList *panels, PpdSession &session, std::string_view 
 }  // namespace
 
 Vocabulary vocabularyOf(const Subject &subject) {
-  auto session = std::make_shared<PpdSession>(PpdFile::open(subject.ppd));
+  auto session = std::make_shared<host::PpdSession>(host::PpdFile::open(subject.ppd));
   TraceDepth unheard;
-  const TraceTo trace(subject.module, &unheard);
-  Extension extension(subject.module, session);
+  const host::TraceTo trace(subject.module, &unheard);
+  host::Extension extension(subject.module, session);
   const PanelList *panels = extension.open();
   if (!panels || panels->empty())
     throw NothingToCheck(fmt::format("the module makes no panels for {}", subject.ppd));
@@ -147,11 +147,11 @@ std::string randomScript(const Vocabulary &vocabulary, std::uint64_t seed) {
 }
 
 int runSession(const Subject &subject, const std::string &script, std::ostream &log) {
-  auto session = std::make_shared<PpdSession>(PpdFile::open(subject.ppd));
+  auto session = std::make_shared<host::PpdSession>(host::PpdFile::open(subject.ppd));
   TraceDepth trace;
   std::ostream nowhere(nullptr);
-  ScriptRunner runner(subject.module, session, subject.user, nowhere, nowhere);
-  const TraceTo tracing(subject.module, &trace);
+  script::ScriptRunner runner(subject.module, session, subject.user, nowhere, nowhere);
+  const host::TraceTo tracing(subject.module, &trace);
   std::istringstream lines(script);
   int count = 0;
   for (std::string line; std::getline(lines, line);) {
@@ -170,4 +170,4 @@ int runSession(const Subject &subject, const std::string &script, std::ostream &
   return count;
 }
 
-}  // namespace kwopde::host
+}  // namespace kwopde::check

@@ -8,7 +8,7 @@
 
 #include "check/ContractChecks.h"
 
-namespace kwopde::host {
+namespace kwopde::check {
 
 /// What there is to call and to work: the panels that a module makes for a PPD, as they tell it
 /// themselves.
@@ -40,4 +40,4 @@ std::string randomScript(const Vocabulary &vocabulary, std::uint64_t seed);
 /// command goes to `log` before it is run. Returns how many could be run; throws `CheckFailed`.
 int runSession(const Subject &subject, const std::string &script, std::ostream &log);
 
-}  // namespace kwopde::host
+}  // namespace kwopde::check

@@ -5,7 +5,7 @@
 
 #include "platform/LogSink.h"
 
-namespace kwopde::host {
+namespace kwopde::check {
 
 class TraceDepth final : public LogSink {
 public:
@@ -25,4 +25,4 @@ private:
   long lines_ = 0;
 };
 
-}  // namespace kwopde::host
+}  // namespace kwopde::check

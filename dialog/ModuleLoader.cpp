@@ -11,7 +11,7 @@
 
 Q_DECLARE_INTERFACE(kwopde::PlugInModule, KWOPDE_PLUGIN_MODULE_IID)
 
-namespace kwopde::host {
+namespace kwopde::dialog {
 
 namespace {
 
@@ -41,9 +41,9 @@ PlugInModule &loadModule(const QString &file) {
   QObject *const instance = loader.instance();
   auto *const module = qobject_cast<PlugInModule *>(instance);
   if (module) return *module;
-  throw Error(instance
-                  ? loader.fileName().toStdString() + ": not a print-dialog extension"
-                  : loader.fileName().toStdString() + ": " + loader.errorString().toStdString());
+  throw host::Error(instance ? loader.fileName().toStdString() + ": not a print-dialog extension"
+                             : loader.fileName().toStdString() + ": " +
+                                   loader.errorString().toStdString());
 }
 
-}  // namespace kwopde::host
+}  // namespace kwopde::dialog

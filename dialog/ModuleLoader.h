@@ -5,7 +5,7 @@
 
 #include "platform/PlugIn.h"
 
-namespace kwopde::host {
+namespace kwopde::dialog {
 
 /// The extension in `file`, or with an empty name the one that belongs to this program: what the
 /// environment variable KWOPDE_MODULE names, else the one beside the program, else the one that was
@@ -13,4 +13,4 @@ namespace kwopde::host {
 /// rest of the process. Throws `Error` when there is none.
 PlugInModule &loadModule(const QString &file = {});
 
-}  // namespace kwopde::host
+}  // namespace kwopde::dialog

@@ -1,8 +1,8 @@
 #include "dialog/Notices.h"
 
-namespace kwopde::host {
+namespace kwopde::dialog {
 
-Notices::Notices(PpdSession &session) : session_(session) {
+Notices::Notices(host::PpdSession &session) : session_(session) {
   session_.addObserver(this);
 }
 
@@ -11,7 +11,7 @@ Notices::~Notices() {
 }
 
 void Notices::requestWasAnswered(const std::string *key, const std::string *choice,
-                                 const Answer &answer) {
+                                 const host::Answer &answer) {
   if (!key || !choice) return;
   const QString option = QString::fromStdString(*key);
   const QString before = sentences_.value(option);
@@ -25,33 +25,33 @@ void Notices::requestWasAnswered(const std::string *key, const std::string *choi
 }
 
 QString Notices::sentence(const std::string &key, const std::string &choice,
-                          const Answer &answer) const {
-  const PpdFile &ppd = session_.ppd();
+                          const host::Answer &answer) const {
+  const host::PpdFile &ppd = session_.ppd();
   const QString option = QString::fromStdString(ppd.textOf(key));
   const QString wanted = QString::fromStdString(ppd.textOf(key, choice));
   switch (answer.reason) {
-    case Answer::Reason::granted:
+    case host::Answer::Reason::granted:
       if (answer.changes.empty()) return {};
       return tr("Changed %1, to go with %2: %3.").arg(text(answer.changes), option, wanted);
-    case Answer::Reason::conflict:
+    case host::Answer::Reason::conflict:
       return tr("%1 cannot be %2 together with %3.").arg(option, wanted, text(answer.conflicts));
-    case Answer::Reason::outsideLimits:
+    case host::Answer::Reason::outsideLimits:
       if (const auto limits = session_.limits(key))
         return tr("%1 cannot be %2: this printer takes %3 to %4.")
             .arg(option, wanted)
             .arg(limits->minimum)
             .arg(limits->maximum);
       [[fallthrough]];
-    case Answer::Reason::unlisted:
+    case host::Answer::Reason::unlisted:
       return tr("%1 cannot be %2: this printer has no such choice.").arg(option, wanted);
-    case Answer::Reason::unwilling:
-    case Answer::Reason::unknownOption:
+    case host::Answer::Reason::unwilling:
+    case host::Answer::Reason::unknownOption:
       return {};
   }
   return {};
 }
 
-QString Notices::text(const std::vector<OptionChoice> &choices) const {
+QString Notices::text(const std::vector<host::OptionChoice> &choices) const {
   QStringList texts;
   for (const auto &[key, choice] : choices)
     texts.append(tr("%1: %2").arg(QString::fromStdString(session_.ppd().textOf(key)),
@@ -59,4 +59,4 @@ QString Notices::text(const std::vector<OptionChoice> &choices) const {
   return texts.join(", ");
 }
 
-}  // namespace kwopde::host
+}  // namespace kwopde::dialog

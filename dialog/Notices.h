@@ -7,19 +7,19 @@
 
 #include "host/PpdSession.h"
 
-namespace kwopde::host {
+namespace kwopde::dialog {
 
-class Notices final : public QObject, public SessionObserver {
+class Notices final : public QObject, public host::SessionObserver {
   Q_OBJECT
 
 public:
   /// Listens to `session` while it lives; borrowed.
-  explicit Notices(PpdSession &session);
+  explicit Notices(host::PpdSession &session);
   ~Notices() override;
 
   void requestWasAnswered(const std::string *key, const std::string *choice,
-                          const Answer &answer) override;
-  void willAnnounce(const OptionChoice &) override {}
+                          const host::Answer &answer) override;
+  void willAnnounce(const host::OptionChoice &) override {}
 
 signals:
   /// All that there is to say now, a sentence a line; empty when there is nothing. An option's
@@ -27,11 +27,12 @@ signals:
   void changed(const QString &text);
 
 private:
-  QString sentence(const std::string &key, const std::string &choice, const Answer &answer) const;
-  QString text(const std::vector<OptionChoice> &choices) const;
+  QString sentence(const std::string &key, const std::string &choice,
+                   const host::Answer &answer) const;
+  QString text(const std::vector<host::OptionChoice> &choices) const;
 
-  PpdSession &session_;
+  host::PpdSession &session_;
   QMap<QString, QString> sentences_;  // by option
 };
 
-}  // namespace kwopde::host
+}  // namespace kwopde::dialog

@@ -5,7 +5,7 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
-namespace kwopde::host {
+namespace kwopde::dialog {
 
 namespace {
 
@@ -62,4 +62,4 @@ void Page::setContent(QWidget *content) {
   setFocusPolicy(Qt::NoFocus);
 }
 
-}  // namespace kwopde::host
+}  // namespace kwopde::dialog

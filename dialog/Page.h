@@ -6,7 +6,7 @@
 class QLabel;
 class QScrollArea;
 
-namespace kwopde::host {
+namespace kwopde::dialog {
 
 class Page : public QWidget {
   Q_OBJECT
@@ -29,4 +29,4 @@ private:
   QLabel *notice_;
 };
 
-}  // namespace kwopde::host
+}  // namespace kwopde::dialog

@@ -7,7 +7,7 @@
 #include "dialog/SummaryPage.h"
 #include "platform/PanelInspector.h"
 
-namespace kwopde::host {
+namespace kwopde::dialog {
 
 namespace {
 
@@ -61,7 +61,8 @@ QWidget *PanelPage::view() {
   return panelView ? static_cast<QWidget *>(panelView->nativeView()) : nullptr;
 }
 
-PanelPages::PanelPages(PlugInModule &module, std::shared_ptr<PpdSession> session, QObject *parent)
+PanelPages::PanelPages(PlugInModule &module, std::shared_ptr<host::PpdSession> session,
+                       QObject *parent)
     : QObject(parent),
       session_(std::move(session)),
       notices_(*session_),
@@ -93,4 +94,4 @@ void PanelPages::print() {
     if (page) page->print();
 }
 
-}  // namespace kwopde::host
+}  // namespace kwopde::dialog

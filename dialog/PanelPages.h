@@ -12,7 +12,7 @@
 #include "host/PpdSession.h"
 #include "platform/PlugIn.h"
 
-namespace kwopde::host {
+namespace kwopde::dialog {
 
 /// One panel. The panel hears that it is shown and left when its page is; its view is made when the
 /// page is first seen.
@@ -45,7 +45,8 @@ class PanelPages final : public QObject {
 
 public:
   /// Makes the extension's panels for the PPD of `session` and lets them read what is marked.
-  PanelPages(PlugInModule &module, std::shared_ptr<PpdSession> session, QObject *parent = nullptr);
+  PanelPages(PlugInModule &module, std::shared_ptr<host::PpdSession> session,
+             QObject *parent = nullptr);
 
   /// Destroys the pages that still exist, and drops the extension.
   ~PanelPages() override;
@@ -59,11 +60,11 @@ public:
   void print();
 
 private:
-  std::shared_ptr<PpdSession> session_;
+  std::shared_ptr<host::PpdSession> session_;
   Notices notices_;
-  Extension extension_;
+  host::Extension extension_;
   QList<QPointer<PanelPage>> panelPages_;
   QPointer<Page> summaryPage_;
 };
 
-}  // namespace kwopde::host
+}  // namespace kwopde::dialog

@@ -6,7 +6,7 @@
 
 #include "host/Error.h"
 
-namespace kwopde::host {
+namespace kwopde::dialog {
 
 QStringList takePictures(QDialog &dialog, const QString &folder) {
   QStringList files;
@@ -15,7 +15,7 @@ QStringList takePictures(QDialog &dialog, const QString &folder) {
     QCoreApplication::processEvents();
     files.append(QDir(folder).filePath(name + ".png"));
     if (!dialog.grab().save(files.back()))
-      throw Error(files.back().toStdString() + ": the picture cannot be written");
+      throw host::Error(files.back().toStdString() + ": the picture cannot be written");
   };
   auto *tabs = dialog.findChild<QTabWidget *>();
   for (int i = 0; tabs && i < tabs->count(); ++i) {
@@ -26,4 +26,4 @@ QStringList takePictures(QDialog &dialog, const QString &folder) {
   return files;
 }
 
-}  // namespace kwopde::host
+}  // namespace kwopde::dialog

@@ -7,7 +7,7 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
-namespace kwopde::host {
+namespace kwopde::dialog {
 
 namespace {
 
@@ -19,7 +19,7 @@ QLabel *plainLabel(const QString &text) {
 
 }  // namespace
 
-PpdDialog::PpdDialog(PlugInModule &module, const std::shared_ptr<PpdSession> &session,
+PpdDialog::PpdDialog(PlugInModule &module, const std::shared_ptr<host::PpdSession> &session,
                      const QString &document, QWidget *parent)
     : QDialog(parent), pages_(module, session) {
   setWindowTitle(tr("Print"));
@@ -63,4 +63,4 @@ void PpdDialog::showHelp() {
     page->showHelp();
 }
 
-}  // namespace kwopde::host
+}  // namespace kwopde::dialog

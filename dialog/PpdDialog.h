@@ -10,7 +10,7 @@
 
 class QTabWidget;
 
-namespace kwopde::host {
+namespace kwopde::dialog {
 
 /// A tab for every panel, and the summary. Accepting it ("Print") settles what the panels show; the
 /// session's changed choices are then what the job has to carry.
@@ -19,7 +19,7 @@ class PpdDialog final : public QDialog {
 
 public:
   /// `document` is the name to show for what is printed; empty for none.
-  PpdDialog(PlugInModule &module, const std::shared_ptr<PpdSession> &session,
+  PpdDialog(PlugInModule &module, const std::shared_ptr<host::PpdSession> &session,
             const QString &document, QWidget *parent = nullptr);
 
   void accept() override;
@@ -31,4 +31,4 @@ private:
   QTabWidget *tabs_ = nullptr;  // null without panels
 };
 
-}  // namespace kwopde::host
+}  // namespace kwopde::dialog

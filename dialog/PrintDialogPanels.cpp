@@ -7,7 +7,7 @@
 #include "host/Error.h"
 #include "host/PrintQueue.h"
 
-namespace kwopde::host {
+namespace kwopde::dialog {
 
 namespace {
 
@@ -36,8 +36,8 @@ void PrintDialogPanels::showPanelsOf(const QString &printer) {
   choices_.clear();
   if (printer.isEmpty()) return;
   try {
-    session_ = PrintQueue(printer.toStdString()).openSession();
-  } catch (const Error &) {
+    session_ = host::PrintQueue(printer.toStdString()).openSession();
+  } catch (const host::Error &) {
     return;  // not a queue with a PPD: a printer that is not ours
   }
   pages_ = std::make_unique<PanelPages>(module_, session_);
@@ -57,4 +57,4 @@ void PrintDialogPanels::settle() {
   engine->setProperty(kCupsOptions, options);
 }
 
-}  // namespace kwopde::host
+}  // namespace kwopde::dialog

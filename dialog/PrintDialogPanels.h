@@ -9,7 +9,7 @@
 #include "dialog/PanelPages.h"
 #include "host/PpdSession.h"
 
-namespace kwopde::host {
+namespace kwopde::dialog {
 
 /// While it lives, `dialog` shows the panels of the printer that is chosen in it, and none for a
 /// printer that is not ours.
@@ -25,16 +25,16 @@ public:
   void settle();
 
   /// The choices that the job has to carry, as settled last.
-  const std::vector<OptionChoice> &choices() const { return choices_; }
+  const std::vector<host::OptionChoice> &choices() const { return choices_; }
 
 private:
   void showPanelsOf(const QString &printer);
 
   PlugInModule &module_;
   QPrintDialog &dialog_;
-  std::shared_ptr<PpdSession> session_;  // null for a printer without panels
+  std::shared_ptr<host::PpdSession> session_;  // null for a printer without panels
   std::unique_ptr<PanelPages> pages_;
-  std::vector<OptionChoice> choices_;
+  std::vector<host::OptionChoice> choices_;
 };
 
-}  // namespace kwopde::host
+}  // namespace kwopde::dialog

@@ -12,7 +12,7 @@
 
 #include "host/Error.h"
 
-namespace kwopde::host {
+namespace kwopde::dialog {
 
 namespace {
 
@@ -38,8 +38,8 @@ QueueDialog::QueueDialog(PlugInModule &module, QPrinter &printer, const QStringL
   expandOptions(*this);  // the panels are what this dialog is for
 }
 
-PrintJob QueueDialog::job() const {
-  PrintJob job{printer()->printerName().toStdString(), {}, {}, panels_.choices()};
+host::PrintJob QueueDialog::job() const {
+  host::PrintJob job{printer()->printerName().toStdString(), {}, {}, panels_.choices()};
   for (const QString &document : documents_) job.documents.push_back(document.toStdString());
   if (!documents_.isEmpty()) job.title = QFileInfo(documents_.front()).fileName().toStdString();
   if (const int copies = printer()->copyCount(); copies > 1)
@@ -69,7 +69,7 @@ bool QueueDialog::sendDocuments() {
         return !progress.wasCanceled();
       });
       return jobId_.has_value();
-    } catch (const Error &error) {
+    } catch (const host::Error &error) {
       progress.close();
       const auto choice =
           QMessageBox::warning(this, tr("Printing failed"), QString::fromStdString(error.what()),
@@ -79,4 +79,4 @@ bool QueueDialog::sendDocuments() {
   }
 }
 
-}  // namespace kwopde::host
+}  // namespace kwopde::dialog

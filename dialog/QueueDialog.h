@@ -8,7 +8,7 @@
 #include "dialog/PrintDialogPanels.h"
 #include "host/PrintJob.h"
 
-namespace kwopde::host {
+namespace kwopde::dialog {
 
 /// Opens the part of `dialog` that has the tabs.
 void expandOptions(QPrintDialog &dialog);
@@ -27,7 +27,7 @@ public:
   std::optional<int> jobId() const { return jobId_; }
 
   /// The job as it was sent, or would be.
-  PrintJob job() const;
+  host::PrintJob job() const;
 
   void done(int result) override;
 
@@ -39,4 +39,4 @@ private:
   std::optional<int> jobId_;
 };
 
-}  // namespace kwopde::host
+}  // namespace kwopde::dialog

@@ -4,7 +4,7 @@
 #include <QLabel>
 #include <QShowEvent>
 
-namespace kwopde::host {
+namespace kwopde::dialog {
 
 namespace {
 
@@ -56,4 +56,4 @@ QWidget *SummaryPage::table() {
   return content;
 }
 
-}  // namespace kwopde::host
+}  // namespace kwopde::dialog

@@ -4,7 +4,7 @@
 #include "dialog/Page.h"
 #include "platform/PlugIn.h"
 
-namespace kwopde::host {
+namespace kwopde::dialog {
 
 /// Asks the panels anew whenever it is opened.
 class SummaryPage final : public Page {
@@ -23,4 +23,4 @@ private:
   const PanelList &panels_;
 };
 
-}  // namespace kwopde::host
+}  // namespace kwopde::dialog

@@ -5,7 +5,7 @@
 #include <QLocale>
 #include <QTranslator>
 
-namespace kwopde::host {
+namespace kwopde::dialog {
 
 namespace {
 
@@ -25,4 +25,4 @@ void installTranslations() {
   install("kwopde-host", ":/kwopde-host");
 }
 
-}  // namespace kwopde::host
+}  // namespace kwopde::dialog

@@ -43,7 +43,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     kwopde::fuzz::runScript(
         std::make_shared<kwopde::host::PpdSession>(kwopde::host::PpdFile::open(path)), script());
     static kwopde::headless::Module module;
-    kwopde::host::checkPpd(module, path);
+    kwopde::check::checkPpd(module, path);
   } catch (const kwopde::host::Error &) {
     // The usual end of a PPD that is none.
   }

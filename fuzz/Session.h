@@ -18,7 +18,7 @@ inline void runScript(std::shared_ptr<host::PpdSession> session, const std::stri
   headless::UserInput user;
   std::ostringstream out;
   std::ostringstream errors;
-  host::ScriptRunner runner(module, std::move(session), user, out, errors);
+  script::ScriptRunner runner(module, std::move(session), user, out, errors);
   const host::TraceTo trace(module, &runner);
   std::istringstream commands(script);
   runner.run(commands);

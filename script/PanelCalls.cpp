@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-namespace kwopde::host {
+namespace kwopde::script {
 
 namespace {
 
@@ -111,4 +111,4 @@ const PanelCall *findPanelCall(std::string_view name) {
   return found == std::end(kCalls) ? nullptr : found;
 }
 
-}  // namespace kwopde::host
+}  // namespace kwopde::script

@@ -9,7 +9,7 @@
 #include "platform/Panel.h"
 #include "script/Script.h"
 
-namespace kwopde::host {
+namespace kwopde::script {
 
 struct PanelCall {
   std::string_view name;  // "shouldHide"
@@ -29,4 +29,4 @@ std::span<const PanelCall> panelCalls();
 /// Returns the one called `name`; null when there is none.
 const PanelCall *findPanelCall(std::string_view name);
 
-}  // namespace kwopde::host
+}  // namespace kwopde::script

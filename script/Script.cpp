@@ -3,7 +3,7 @@
 #include "host/Error.h"
 #include "platform/Object.h"
 
-namespace kwopde::host {
+namespace kwopde::script {
 
 namespace {
 
@@ -22,7 +22,7 @@ std::string takeQuoted(std::string_view &rest) {
     }
     text += c;
   }
-  throw Error("a quoted word does not end");
+  throw host::Error("a quoted word does not end");
 }
 
 }  // namespace
@@ -59,4 +59,4 @@ std::vector<Word> splitWords(std::string_view line) {
   }
 }
 
-}  // namespace kwopde::host
+}  // namespace kwopde::script

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-namespace kwopde::host {
+namespace kwopde::script {
 
 /// A word of a command; no text stands for `nil`.
 using Word = std::optional<std::string>;
@@ -21,4 +21,4 @@ bool isBlank(std::string_view line);
 /// a quoted word does not end.
 std::vector<Word> splitWords(std::string_view line);
 
-}  // namespace kwopde::host
+}  // namespace kwopde::script

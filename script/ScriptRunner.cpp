@@ -13,7 +13,7 @@
 #include "platform/PanelInspector.h"
 #include "script/PanelCalls.h"
 
-namespace kwopde::host {
+namespace kwopde::script {
 
 namespace {
 
@@ -53,7 +53,7 @@ Number number(const Word &word) {
   const auto read = std::from_chars(text.data(), text.data() + text.size(), value);
   if (read.ec != std::errc() || read.ptr != text.data() + text.size() ||
       !std::isfinite(static_cast<double>(value)))
-    throw Error(fmt::format("\"{}\" is not a number", text));
+    throw host::Error(fmt::format("\"{}\" is not a number", text));
   return value;
 }
 
@@ -79,9 +79,9 @@ void checkCount(const std::vector<Word> &words, std::size_t least, std::size_t m
   const auto count = words.size() - 1;
   if (count >= least && count <= most) return;
   const auto wanted = count < least ? least : most;
-  throw Error(fmt::format("{} takes {} {} {}, not {}", nameOf(words.front()),
-                          count < least ? "at least" : "at most", wanted,
-                          wanted == 1 ? "word" : "words", count));
+  throw host::Error(fmt::format("{} takes {} {} {}, not {}", nameOf(words.front()),
+                                count < least ? "at least" : "at most", wanted,
+                                wanted == 1 ? "word" : "words", count));
 }
 
 }  // namespace
@@ -118,7 +118,7 @@ std::string ScriptRunner::PDEPanelsForType(const std::vector<Word> &words) {
   return fmt::format("[{}]", fmt::join(classes, ", "));
 }
 
-ScriptRunner::ScriptRunner(PlugInModule &module, std::shared_ptr<PpdSession> session,
+ScriptRunner::ScriptRunner(PlugInModule &module, std::shared_ptr<host::PpdSession> session,
                            UserInput &user, std::ostream &out, std::ostream &errors)
     : module_(module),
       session_(std::move(session)),
@@ -144,7 +144,7 @@ bool ScriptRunner::run(std::istream &script) {
     try {
       const std::string result = perform(splitWords(line));
       fmt::print(out_, "= {}\n", result);
-    } catch (const Error &error) {
+    } catch (const host::Error &error) {
       out_.flush();
       fmt::print(errors_, "error: {}: {}\n", number, error.what());
       good = false;
@@ -154,12 +154,12 @@ bool ScriptRunner::run(std::istream &script) {
 }
 
 void ScriptRunner::requestWasAnswered(const std::string *key, const std::string *choice,
-                                      const Answer &answer) {
+                                      const host::Answer &answer) {
   fmt::print(out_, "host: {} {} {}\n", key ? *key : "nil", choice ? *choice : "nil",
              answer.granted() ? "granted" : "refused");
 }
 
-void ScriptRunner::willAnnounce(const OptionChoice &change) {
+void ScriptRunner::willAnnounce(const host::OptionChoice &change) {
   fmt::print(out_, "announce: {} {}\n", change.key, change.choice);
 }
 
@@ -174,24 +174,24 @@ std::string ScriptRunner::perform(const std::vector<Word> &words) {
     return (this->*command->run)(words);
   }
   const auto point = name.find('.');
-  if (point == name.npos) throw Error(fmt::format("unknown command \"{}\"", name));
+  if (point == name.npos) throw host::Error(fmt::format("unknown command \"{}\"", name));
   const std::string target = name.substr(0, point);
   const std::string operation = name.substr(point + 1);
   if (target == "plugin") {
     const Command *found = find(kPlugInOperations, operation);
-    if (!found) throw Error(fmt::format("a plug-in has no operation \"{}\"", operation));
+    if (!found) throw host::Error(fmt::format("a plug-in has no operation \"{}\"", operation));
     checkCount(words, found->least, found->most);
     return (this->*found->run)(words);
   }
   Panel &found = panel(target);
   const PanelCall *row = findPanelCall(operation);
-  if (!row) throw Error(fmt::format("a panel has no operation \"{}\"", operation));
+  if (!row) throw host::Error(fmt::format("a panel has no operation \"{}\"", operation));
   checkCount(words, row->words, row->words);
   return row->call(found, words);
 }
 
-Extension &ScriptRunner::extension() {
-  if (!extension_) throw Error("the plug-in has been released");
+host::Extension &ScriptRunner::extension() {
+  if (!extension_) throw host::Error("the plug-in has been released");
   return *extension_;
 }
 
@@ -205,9 +205,9 @@ Panel &ScriptRunner::panel(std::string_view word) const {
       if (wordOf(*panel) == word) return *panel;
   const auto words = panelWords(module_);
   if (words.empty() || std::find(words.begin(), words.end(), word) != words.end())
-    throw Error(fmt::format("there is no {} panel", word));
-  throw Error(fmt::format("\"{}\" is not a panel: {} or {}", word,
-                          fmt::join(words.begin(), words.end() - 1, ", "), words.back()));
+    throw host::Error(fmt::format("there is no {} panel", word));
+  throw host::Error(fmt::format("\"{}\" is not a panel: {} or {}", word,
+                                fmt::join(words.begin(), words.end() - 1, ", "), words.back()));
 }
 
 template <class Control>
@@ -217,10 +217,10 @@ Control &ScriptRunner::control(const Word &word, std::string_view kind) const {
   const PanelInspector *inspector = inspectorOf(panel(name.substr(0, point)));
   View *const view =
       inspector ? inspector->control(name.substr(std::min(point + 1, name.size()))) : nullptr;
-  if (!view) throw Error(fmt::format("there is no control {}", name));
+  if (!view) throw host::Error(fmt::format("there is no control {}", name));
   auto *control = dynamic_cast<Control *>(view);
-  if (!control) throw Error(fmt::format("{} is not a {}", name, kind));
-  if (!control->isEnabled()) throw Error(fmt::format("{} is disabled", name));
+  if (!control) throw host::Error(fmt::format("{} is not a {}", name, kind));
+  if (!control->isEnabled()) throw host::Error(fmt::format("{} is disabled", name));
   return *control;
 }
 
@@ -229,22 +229,24 @@ std::string ScriptRunner::pick(const std::vector<Word> &words) {
   const int index = number<int>(words[2]);
   const Menu *menu = popUp.menu();
   if (!menu || !menu->itemAtIndex(index))
-    throw Error(fmt::format("{} has no item {}", *words[1], index));
-  if (!user_.pick(popUp, index)) throw Error(fmt::format("{} cannot be picked from", *words[1]));
+    throw host::Error(fmt::format("{} has no item {}", *words[1], index));
+  if (!user_.pick(popUp, index))
+    throw host::Error(fmt::format("{} cannot be picked from", *words[1]));
   return "void";
 }
 
 std::string ScriptRunner::slide(const std::vector<Word> &words) {
   auto &slider = control<Slider>(words[1], "slider");
   if (!user_.slide(slider, number<double>(words[2])))
-    throw Error(fmt::format("{} cannot be moved", *words[1]));
+    throw host::Error(fmt::format("{} cannot be moved", *words[1]));
   return "void";
 }
 
 std::string ScriptRunner::type(const std::vector<Word> &words) {
   auto &field = control<TextField>(words[1], "field");
-  if (!words[2]) throw Error("nil cannot be typed");
-  if (!user_.type(field, *words[2])) throw Error(fmt::format("{} cannot be typed into", *words[1]));
+  if (!words[2]) throw host::Error("nil cannot be typed");
+  if (!user_.type(field, *words[2]))
+    throw host::Error(fmt::format("{} cannot be typed into", *words[1]));
   return "void";
 }
 
@@ -261,7 +263,7 @@ std::string ScriptRunner::mark(const std::vector<Word> &words) {
 
 std::string ScriptRunner::refuse(const std::vector<Word> &words) {
   const std::string word = nameOf(words[1]);
-  if (word != "on" && word != "off") throw Error("refuse takes on or off");
+  if (word != "on" && word != "off") throw host::Error("refuse takes on or off");
   session_->refuseAll(word == "on");
   return "void";
 }
@@ -287,4 +289,4 @@ std::string ScriptRunner::release(const std::vector<Word> &) {
   return "void";
 }
 
-}  // namespace kwopde::host
+}  // namespace kwopde::script

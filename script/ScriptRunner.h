@@ -15,13 +15,13 @@
 #include "platform/UserInput.h"
 #include "script/Script.h"
 
-namespace kwopde::host {
+namespace kwopde::script {
 
-class ScriptRunner final : public SessionObserver, public LogSink {
+class ScriptRunner final : public host::SessionObserver, public LogSink {
 public:
   /// Makes a plug-in of `module` to drive. The transcript goes to `out`, what is wrong with a
   /// command to `errors`; all of them are borrowed.
-  ScriptRunner(PlugInModule &module, std::shared_ptr<PpdSession> session, UserInput &user,
+  ScriptRunner(PlugInModule &module, std::shared_ptr<host::PpdSession> session, UserInput &user,
                std::ostream &out, std::ostream &errors);
   ~ScriptRunner() override;
 
@@ -32,8 +32,8 @@ public:
   const PanelList *panels() const;
 
   void requestWasAnswered(const std::string *key, const std::string *choice,
-                          const Answer &answer) override;
-  void willAnnounce(const OptionChoice &change) override;
+                          const host::Answer &answer) override;
+  void willAnnounce(const host::OptionChoice &change) override;
 
   /// Writes a line of the trace into the transcript.
   void writeLine(std::string_view line) override;
@@ -57,17 +57,17 @@ private:
   std::string initWithBundle(const std::vector<Word> &words);
   std::string PDEPanelsForType(const std::vector<Word> &words);
 
-  Extension &extension();
+  host::Extension &extension();
   Panel &panel(std::string_view word) const;
   template <class Control>
   Control &control(const Word &word, std::string_view kind) const;
 
   PlugInModule &module_;
-  std::shared_ptr<PpdSession> session_;
+  std::shared_ptr<host::PpdSession> session_;
   UserInput &user_;
   std::ostream &out_;
   std::ostream &errors_;
-  std::optional<Extension> extension_;  // none once it was released
+  std::optional<host::Extension> extension_;  // none once it was released
 };
 
-}  // namespace kwopde::host
+}  // namespace kwopde::script

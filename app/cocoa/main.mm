@@ -69,7 +69,7 @@ int run(const std::string &bundle, const std::string &ppd, bool noConstraintHand
     file.open(script);
     if (!file) throw host::Error(script + ": cannot be read");
   }
-  host::ScriptRunner runner(module, session, user, std::cout, std::cerr);
+  script::ScriptRunner runner(module, session, user, std::cout, std::cerr);
   const host::TraceTo trace(module, &runner);
   return runner.run(script == "-" ? std::cin : file) ? 0 : 1;
 }

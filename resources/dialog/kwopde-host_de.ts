@@ -2,7 +2,7 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
-    <name>kwopde::host::Notices</name>
+    <name>kwopde::dialog::Notices</name>
     <message>
         <source>Changed %1, to go with %2: %3.</source>
         <translation>Geändert: %1, passend zu %2: %3.</translation>
@@ -25,7 +25,7 @@
     </message>
 </context>
 <context>
-    <name>kwopde::host::PpdDialog</name>
+    <name>kwopde::dialog::PpdDialog</name>
     <message>
         <source>Print</source>
         <translation>Drucken</translation>
@@ -48,7 +48,7 @@
     </message>
 </context>
 <context>
-    <name>kwopde::host::QueueDialog</name>
+    <name>kwopde::dialog::QueueDialog</name>
     <message>
         <source>Sending to the printer…</source>
         <translation>Wird an den Drucker gesendet…</translation>
@@ -63,7 +63,7 @@
     </message>
 </context>
 <context>
-    <name>kwopde::host::SummaryPage</name>
+    <name>kwopde::dialog::SummaryPage</name>
     <message>
         <source>Summary</source>
         <translation>Übersicht</translation>

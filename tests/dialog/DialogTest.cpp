@@ -57,11 +57,11 @@ protected:
   }
 
   TraceRecorder trace_;
-  PlugInModule &module_ = host::loadModule();
+  PlugInModule &module_ = dialog::loadModule();
   const host::TraceTo tracing_{module_, &trace_};
   Requests requests_;
   std::shared_ptr<host::PpdSession> session_;
-  std::optional<host::PpdDialog> dialog_;
+  std::optional<dialog::PpdDialog> dialog_;
   QTabWidget *tabs_ = nullptr;
 };
 
@@ -178,14 +178,14 @@ TEST_F(Dialog, ShowsThePanelsOfAnyPrinter) {
 
   session_ = std::make_shared<host::PpdSession>(
       host::PpdFile::open(KWOPDE_SOURCE_FOLDER "/resources/validate/no-panels.ppd"));
-  host::PpdDialog none(host::loadModule(), session_, {});
+  dialog::PpdDialog none(dialog::loadModule(), session_, {});
   EXPECT_EQ(none.findChild<QTabWidget *>(), nullptr);
   none.accept();
 }
 
 TEST(ModuleLoader, SaysWhichFileIsNoExtension) {
-  EXPECT_THROW(host::loadModule("/nonexistent.so"), host::Error);
-  EXPECT_THROW(host::loadModule(KWOPDE_SOURCE_FOLDER "/README.md"), host::Error);
+  EXPECT_THROW(dialog::loadModule("/nonexistent.so"), host::Error);
+  EXPECT_THROW(dialog::loadModule(KWOPDE_SOURCE_FOLDER "/README.md"), host::Error);
 }
 
 }  // namespace

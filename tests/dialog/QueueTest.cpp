@@ -173,7 +173,7 @@ protected:
   }
   static void open(QPrintDialog &dialog, int tab) {
     dialog.show();
-    host::expandOptions(dialog);
+    dialog::expandOptions(dialog);
     dialog.findChild<QTabWidget *>()->setCurrentIndex(tab);
     QApplication::processEvents();
   }
@@ -218,8 +218,8 @@ TEST_F(QtDialog, TwoDialogsOfOneQueueKeepTheirSettingsApart) {
 }
 
 TEST_F(QtDialog, SendsWhatWasSet) {
-  host::QueueDialog dialog(host::loadModule(), printer_,
-                           {QString::fromStdString(document("photo.txt", "photo"))});
+  dialog::QueueDialog dialog(dialog::loadModule(), printer_,
+                             {QString::fromStdString(document("photo.txt", "photo"))});
   open(dialog, 4);
   dialog.findChild<QLineEdit *>("amountLabel")->setText("20");
   printer_.setCopyCount(3);
@@ -233,7 +233,7 @@ TEST_F(QtDialog, SendsWhatWasSet) {
 TEST_F(QtDialog, StaysOpenWithItsSettingsWhenPrintingFails) {
   ASSERT_EQ(std::system("/usr/sbin/cupsreject kwo-7032"), 0);
   const std::string path = document("retried.txt", "text");
-  host::QueueDialog dialog(host::loadModule(), printer_, {QString::fromStdString(path)});
+  dialog::QueueDialog dialog(dialog::loadModule(), printer_, {QString::fromStdString(path)});
   open(dialog, 2);
   dialog.findChild<QLineEdit *>("pageScaleEdit")->setText("85");
   QStringList messages;

@@ -12,8 +12,8 @@ using testing::ElementsAre;
 
 TEST(Script, SplitsLinesIntoWords) {
   using host::Error;
-  using host::splitWords;
-  using host::Word;
+  using script::splitWords;
+  using script::Word;
   EXPECT_THAT(splitWords("a  b\t\"c d\" # e"), ElementsAre(Word("a"), Word("b"), Word("c d")));
   EXPECT_THAT(splitWords("\"\\\"\\\\\\n\" nil \"nil\" \"\" a#b"),
               ElementsAre(Word("\"\\\\n"), Word(), Word("nil"), Word(""), Word("a#b")));
