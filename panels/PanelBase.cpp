@@ -39,7 +39,7 @@ bool PanelBase::init(const std::shared_ptr<HostCallback> &callback, Bundle *bund
 
   for (const PopUpRow &row : traits_.popUps) {
     this->*row.option = ppdFindOption(ppd, row.key);
-    this->*row.choices = ArrayFromPPDOption(this->*row.option);
+    this->*row.choices = ArrayFromPPDOption(this->*row.option, choiceMaker());
   }
   for (const ValueRow &row : traits_.values) {
     this->*row.option = ppdFindOption(ppd, row.key);
@@ -177,7 +177,7 @@ bool PanelBase::saveValuesAndReturnError(Error **error) {
 
 std::shared_ptr<const Dictionary> PanelBase::summaryInfo() {
   PDEProlog(this, "summaryInfo:");
-  const auto summary = std::make_shared<Dictionary>(traits_.popUps.size() + traits_.values.size());
+  const auto summary = makeSummary(traits_.popUps.size() + traits_.values.size());
   for (const PopUpRow &row : traits_.popUps) {
     if (const PDEChoice *selection = this->*row.selection) {
       const auto title = CreateOptionTitle(this->*row.option);

@@ -34,11 +34,8 @@ bool isExtendedModel(const Object *self, ppd_file_t *ppd) {
 }
 
 template <class P>
-void addPanel(const Object *self, PanelList &panels, const std::shared_ptr<HostCallback> &host,
-              Bundle *bundle, const char *creating) {
-  const auto panel = PanelBase::initWithCallback<P>(host, bundle);
-  PDELog(self, creating, {kPrinterModuleTypeIDStr, panel});
-  if (panel) panels.push_back(panel);
+std::shared_ptr<Panel> makeWith(const std::shared_ptr<HostCallback> &host, Bundle *bundle) {
+  return PanelBase::initWithCallback<P>(host, bundle);
 }
 
 }  // namespace
@@ -59,19 +56,32 @@ const PanelList *KWOPDEPlugIn::PDEPanelsForType(const std::string *type,
   if (type && *type == kPrinterModuleTypeIDStr) {
     PDEs_->reserve(3);
     if (isExtendedModel(this, withHostInfo ? withHostInfo->ppdFile() : nullptr))
-      addPanel<Media7032PDE>(this, *PDEs_, withHostInfo, pluginBundle_,
-                             "Creating PDE of type kPrinterModuleTypeIDStr(%@) Media7032PDE (%p)");
+      addPanel("Media7032PDE", makeWith<Media7032PDE>,
+               "Creating PDE of type kPrinterModuleTypeIDStr(%@) Media7032PDE (%p)", withHostInfo);
     else
-      addPanel<MediaPDE>(this, *PDEs_, withHostInfo, pluginBundle_,
-                         "Creating PDE of type kPrinterModuleTypeIDStr(%@) MediaPDE (%p)");
-    addPanel<ColorPDE>(this, *PDEs_, withHostInfo, pluginBundle_,
-                       "Creating PDE of type kPrinterModuleTypeIDStr(%@) ColorPDE (%p)");
-    addPanel<SharpenPDE>(this, *PDEs_, withHostInfo, pluginBundle_,
-                         "Creating PDE of type kPrinterModuleTypeIDStr(%@) SharpenPDE (%p)");
+      addPanel("MediaPDE", makeWith<MediaPDE>,
+               "Creating PDE of type kPrinterModuleTypeIDStr(%@) MediaPDE (%p)", withHostInfo);
+    addPanel("ColorPDE", makeWith<ColorPDE>,
+             "Creating PDE of type kPrinterModuleTypeIDStr(%@) ColorPDE (%p)", withHostInfo);
+    addPanel("SharpenPDE", makeWith<SharpenPDE>,
+             "Creating PDE of type kPrinterModuleTypeIDStr(%@) SharpenPDE (%p)", withHostInfo);
     if (PDEs_->empty()) PDEs_.reset();
   }
   PDEEpilog(this, "PDEPanelsForType:withHostInfo:=");
   return PDEs_.get();
+}
+
+void KWOPDEPlugIn::addPanel(std::string_view className, PanelMaker make, const char *creating,
+                            const std::shared_ptr<HostCallback> &host) {
+  const auto panel = makePanel(className, make, host, pluginBundle_);
+  PDELog(this, creating, {kPrinterModuleTypeIDStr, panel});
+  if (panel) PDEs_->push_back(panel);
+}
+
+std::shared_ptr<Panel> KWOPDEPlugIn::makePanel(std::string_view, PanelMaker make,
+                                               const std::shared_ptr<HostCallback> &host,
+                                               Bundle *bundle) {
+  return make(host, bundle);
 }
 
 std::vector<PanelRequirement> KWOPDEPlugIn::requirements() {

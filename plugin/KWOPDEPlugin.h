@@ -7,7 +7,7 @@
 
 namespace kwopde {
 
-class KWOPDEPlugIn final : public PlugIn {
+class KWOPDEPlugIn : public PlugIn {
 public:
   std::string_view className() const override { return "KWOPDEPlugIn"; }
 
@@ -21,7 +21,21 @@ public:
   /// What the classes of panels need, in the order of making.
   static std::vector<PanelRequirement> requirements();
 
+protected:
+  /// Makes the core's panel of one class; null when the PPD has no use for it.
+  using PanelMaker = std::shared_ptr<Panel> (*)(const std::shared_ptr<HostCallback> &host,
+                                                Bundle *bundle);
+
+  /// Makes a panel, by `make` unless an adapter has objects of its own for the panels of that
+  /// class.
+  virtual std::shared_ptr<Panel> makePanel(std::string_view className, PanelMaker make,
+                                           const std::shared_ptr<HostCallback> &host,
+                                           Bundle *bundle);
+
 private:
+  void addPanel(std::string_view className, PanelMaker make, const char *creating,
+                const std::shared_ptr<HostCallback> &host);
+
   Bundle *pluginBundle_ = nullptr;  // the host's
   std::shared_ptr<PanelList> PDEs_;
 };
