@@ -197,12 +197,12 @@ std::shared_ptr<const Dictionary> PanelBase::summaryInfo() {
 std::vector<PanelOption> PanelBase::options() const {
   std::vector<PanelOption> options;
   for (const PopUpRow &row : traits_.popUps)
-    options.push_back({row.key, PanelOption::Kind::choice, {}});
+    options.push_back({row.key, PanelOption::Kind::choice, {}, row.action});
   for (const ValueRow &row : traits_.values)
     options.push_back({row.key,
                        std::holds_alternative<Member<int>>(row.value) ? PanelOption::Kind::integer
                                                                       : PanelOption::Kind::real,
-                       row.slider.name});
+                       row.slider.name, row.action});
   return options;
 }
 

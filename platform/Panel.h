@@ -41,6 +41,7 @@ struct PanelOption {
   std::string key;
   Kind kind;
   std::string_view slider;  // the outlet of its slider; empty when it has none
+  std::string_view action;  // what its control sends; empty when it sends nothing
 };
 
 /// What a class of panels needs of a PPD.

@@ -97,7 +97,7 @@ public:
   std::vector<PanelOption> options() const override {
     std::vector<PanelOption> options;
     forEach<NSString>([[panel_ optionKeys] objectEnumerator], [&](NSString *key) {
-      options.push_back({textOf(key), PanelOption::Kind::choice, {}});
+      options.push_back({textOf(key), PanelOption::Kind::choice, {}, {}});
     });
     return options;
   }
