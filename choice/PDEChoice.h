@@ -15,7 +15,7 @@ namespace kwopde {
 /// or either is null. Known from the record's address, whatever the number of choices.
 int positionInOption(const ppd_choice_t *choice, const ppd_option_t *option);
 
-class PDEChoice final : public Object {
+class PDEChoice : public Object {
 public:
   /// Prepares the class; runs by itself before the first choice is made, and only once.
   static void initialize();

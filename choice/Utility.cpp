@@ -6,12 +6,11 @@
 
 namespace kwopde {
 
-std::unique_ptr<ChoiceList> ArrayFromPPDOption(const ppd_option_t *option) {
+std::unique_ptr<ChoiceList> ArrayFromPPDOption(const ppd_option_t *option, ChoiceMaker make) {
   if (!option) return nullptr;
   auto list = std::make_unique<ChoiceList>();
   list->reserve(static_cast<std::size_t>(std::max(option->num_choices, 0)));
-  for (int i = 0; i < option->num_choices; ++i)
-    list->push_back(PDEChoice::choiceWithChoice(&option->choices[i]));
+  for (int i = 0; i < option->num_choices; ++i) list->push_back(make(&option->choices[i]));
   return list;
 }
 

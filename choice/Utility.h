@@ -16,9 +16,13 @@ namespace kwopde {
 /// The choices of one option, in the option's order.
 using ChoiceList = std::vector<std::shared_ptr<PDEChoice>>;
 
-/// A new list with a wrapper for every choice of `option`; null for a null option, and empty for
-/// one without choices.
-std::unique_ptr<ChoiceList> ArrayFromPPDOption(const ppd_option_t *option);
+/// Makes the wrapper of one choice.
+using ChoiceMaker = std::shared_ptr<PDEChoice> (*)(ppd_choice_t *choice);
+
+/// A new list with a wrapper, made by `make`, for every choice of `option`; null for a null option,
+/// and empty for one without choices.
+std::unique_ptr<ChoiceList> ArrayFromPPDOption(const ppd_option_t *option,
+                                               ChoiceMaker make = &PDEChoice::choiceWithChoice);
 
 /// Replaces the items of `popUp` by one for each choice of `list`, titled with its `userTitle` and
 /// representing it. Selects nothing; a null list only empties the pop-up.

@@ -5,7 +5,7 @@
 
 namespace kwopde {
 
-class ColorPDE final : public PanelBase {
+class ColorPDE : public PanelBase {
 public:
   ColorPDE();
   ~ColorPDE() override { releaseChoices(); }

@@ -5,7 +5,7 @@
 
 namespace kwopde {
 
-class Media7032PDE final : public PanelBase {
+class Media7032PDE : public PanelBase {
 public:
   Media7032PDE();
   ~Media7032PDE() override { releaseChoices(); }

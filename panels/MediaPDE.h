@@ -5,7 +5,7 @@
 
 namespace kwopde {
 
-class MediaPDE final : public PanelBase {
+class MediaPDE : public PanelBase {
 public:
   MediaPDE();
   ~MediaPDE() override { releaseChoices(); }

@@ -42,7 +42,7 @@ bool PanelBase::init(const std::shared_ptr<HostCallback> &callback, Bundle *bund
 
   for (const PopUpRow &row : table_.popUps) {
     row.option = ppdFindOption(ppd, row.key);
-    row.choices = ArrayFromPPDOption(row.option);
+    row.choices = ArrayFromPPDOption(row.option, choiceMaker());
   }
   for (const ValueRow &row : table_.values) {
     row.option = ppdFindOption(ppd, row.key);
@@ -179,7 +179,7 @@ bool PanelBase::saveValuesAndReturnError(Error **error) {
 
 std::shared_ptr<const Dictionary> PanelBase::summaryInfo() {
   PDEProlog(this, "summaryInfo:");
-  const auto summary = std::make_shared<Dictionary>(table_.popUps.size() + table_.values.size());
+  const auto summary = makeSummary(table_.popUps.size() + table_.values.size());
   for (const PopUpRow &row : table_.popUps) {
     if (const PDEChoice *selection = row.selection) {
       const auto title = CreateOptionTitle(row.option);

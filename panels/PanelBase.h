@@ -111,11 +111,12 @@ struct PanelTable {
 class PanelBase : public Panel, public PanelInspector, public InterfaceOwner {
 public:
   /// Makes a panel of class `P`, or null when the PPD lacks its key options; the callback is then
-  /// released again. The panel retains `callback` and `andBundle`; each may be null.
-  template <class P>
+  /// released again. The panel retains `callback` and `andBundle`; each may be null. `arguments`
+  /// are those of P's constructor: none but for an adapter's own class.
+  template <class P, class... Arguments>
   static std::shared_ptr<P> initWithCallback(const std::shared_ptr<HostCallback> &callback,
-                                             Bundle *andBundle) {
-    auto panel = std::make_shared<P>();
+                                             Bundle *andBundle, Arguments... arguments) {
+    auto panel = std::make_shared<P>(arguments...);
     if (!panel->init(callback, andBundle)) return nullptr;
     return panel;
   }
@@ -195,6 +196,14 @@ public:
 
 protected:
   explicit PanelBase(PanelTable table) : table_(std::move(table)) {}
+
+  /// Makes the panel's choices; an adapter whose toolkit has objects for them says how.
+  virtual ChoiceMaker choiceMaker() const { return &PDEChoice::choiceWithChoice; }
+
+  /// Makes the empty dictionary of a summary.
+  virtual std::shared_ptr<Dictionary> makeSummary(std::size_t capacity) const {
+    return std::make_shared<Dictionary>(capacity);
+  }
 
   /// Releases the choice lists; a panel class calls it in its destructor, while it has them.
   void releaseChoices();

@@ -5,7 +5,7 @@
 
 namespace kwopde {
 
-class SharpenPDE final : public PanelBase {
+class SharpenPDE : public PanelBase {
 public:
   SharpenPDE();
   ~SharpenPDE() override { releaseChoices(); }

@@ -10,7 +10,7 @@
 
 namespace kwopde {
 
-class Dictionary final : public Object {
+class Dictionary : public Object {
 public:
   /// `capacity` is how many entries it is likely to hold.
   explicit Dictionary(std::size_t capacity) { entries_.reserve(capacity); }

@@ -2,7 +2,6 @@
 
 #include <cups/ppd.h>
 
-#include "panels/PanelClasses.h"
 #include "platform/Kept.h"
 #include "platform/Numbers.h"
 #include "plugin/PDELogging.h"
@@ -51,7 +50,7 @@ const PanelList *KWOPDEPlugIn::PDEPanelsForType(const std::string *type,
                             : Models::others;
     for (const PanelClass &panelClass : panelClasses()) {
       if (panelClass.models != Models::all && panelClass.models != ours) continue;
-      const auto panel = panelClass.initWithCallback(withHostInfo, pluginBundle);
+      const auto panel = makePanel(panelClass, withHostInfo, pluginBundle);
       PDELog(this, "Creating PDE of type kPrinterModuleTypeIDStr(%@) %@ (%p)",
              {kPrinterModuleTypeIDStr, panelClass.name, panel});
       if (panel) PDEs->push_back(panel);
@@ -60,6 +59,12 @@ const PanelList *KWOPDEPlugIn::PDEPanelsForType(const std::string *type,
   }
   PDEEpilog(this, "PDEPanelsForType:withHostInfo:=");
   return PDEs.get();
+}
+
+std::shared_ptr<Panel> KWOPDEPlugIn::makePanel(const PanelClass &panelClass,
+                                               const std::shared_ptr<HostCallback> &host,
+                                               Bundle *bundle) {
+  return panelClass.initWithCallback(host, bundle);
 }
 
 }  // namespace kwopde

@@ -3,11 +3,12 @@
 
 #include <memory>
 
+#include "panels/PanelClasses.h"
 #include "platform/PlugIn.h"
 
 namespace kwopde {
 
-class KWOPDEPlugIn final : public PlugIn {
+class KWOPDEPlugIn : public PlugIn {
 public:
   std::string_view className() const override { return "KWOPDEPlugIn"; }
 
@@ -17,6 +18,13 @@ public:
   /// without those that the PPD has no use for.
   const PanelList *PDEPanelsForType(const std::string *type,
                                     const std::shared_ptr<HostCallback> &withHostInfo) override;
+
+protected:
+  /// Makes a panel of `panelClass`; an adapter that has objects of its own for panels says how. Null
+  /// when the PPD has no use for it.
+  virtual std::shared_ptr<Panel> makePanel(const PanelClass &panelClass,
+                                           const std::shared_ptr<HostCallback> &host,
+                                           Bundle *bundle);
 
 private:
   Bundle *pluginBundle = nullptr;  // the host's
