@@ -63,7 +63,7 @@ NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE(Result, name, promise, outcome, what, calls)
 class Ppds {
 public:
   Ppds() {
-    for (const char *name : {"kwo-7032.ppd", "no-panels.ppd"}) {
+    for (const char *name : {"kwo-7032.ppd", "no-options.ppd"}) {
       QFile::copy(QString(":/kwopde-app/") + name, folder_.filePath(name));
       QFile::setPermissions(folder_.filePath(name), QFile::ReadOwner | QFile::WriteOwner);
     }
@@ -80,7 +80,7 @@ public:
   explicit Bench(const ValidateOptions &options)
       : subject{dialog::loadModule(QString::fromStdString(options.module)), user_,
                 options.ppd.empty() ? ppds_.path("kwo-7032.ppd") : options.ppd,
-                ppds_.path("no-panels.ppd")} {}
+                ppds_.path("no-options.ppd")} {}
 
 private:
   Ppds ppds_;

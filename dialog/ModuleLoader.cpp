@@ -37,13 +37,23 @@ QString usualModule() {
 }  // namespace
 
 PlugInModule &loadModule(const QString &file) {
-  QPluginLoader loader(file.isEmpty() ? usualModule() : file);
-  QObject *const instance = loader.instance();
-  auto *const module = qobject_cast<PlugInModule *>(instance);
-  if (module) return *module;
-  throw host::Error(instance ? loader.fileName().toStdString() + ": not a print-dialog extension"
-                             : loader.fileName().toStdString() + ": " +
-                                   loader.errorString().toStdString());
+  const QString path = file.isEmpty() ? usualModule() : QFileInfo(file).absoluteFilePath();
+  const auto fail = [&](const QString &why) {
+    return host::Error(QString("%1: %2").arg(path, why).toStdString());
+  };
+  if (!QFile::exists(path)) throw fail("there is no such module");
+  QPluginLoader loader(path);
+  // The file tells what it was built for before any of its code runs.
+  const QString interface = loader.metaData().value("IID").toString();
+  const QString ours(KWOPDE_PLUGIN_MODULE_IID);
+  const QString family = ours.chopped(sizeof(KWOPDE_CONTRACT_VERSION) - 1);
+  if (!interface.startsWith(family)) throw fail("not a print-dialog extension");
+  if (interface != ours)
+    throw fail(QString("built for version %1 of the extension's contract, and this program has "
+                       "version " KWOPDE_CONTRACT_VERSION)
+                   .arg(interface.mid(family.size())));
+  if (auto *const module = qobject_cast<PlugInModule *>(loader.instance())) return *module;
+  throw fail(loader.errorString());
 }
 
 }  // namespace kwopde::dialog

@@ -177,15 +177,24 @@ TEST_F(Dialog, ShowsThePanelsOfAnyPrinter) {
   EXPECT_EQ(tabs_->count(), 3);
 
   session_ = std::make_shared<host::PpdSession>(
-      host::PpdFile::open(KWOPDE_SOURCE_FOLDER "/resources/validate/no-panels.ppd"));
+      host::PpdFile::open(KWOPDE_SOURCE_FOLDER "/tests/transcripts/no-panels.ppd"));
   dialog::PpdDialog none(dialog::loadModule(), session_, {});
   EXPECT_EQ(none.findChild<QTabWidget *>(), nullptr);
   none.accept();
 }
 
-TEST(ModuleLoader, SaysWhichFileIsNoExtension) {
-  EXPECT_THROW(dialog::loadModule("/nonexistent.so"), host::Error);
-  EXPECT_THROW(dialog::loadModule(KWOPDE_SOURCE_FOLDER "/README.md"), host::Error);
+TEST(ModuleLoader, SaysWhichFileIsRefusedAndWhy) {
+  const struct {
+    std::string file;
+    const char *why;
+  } rows[] = {{"/nonexistent.so", "/nonexistent.so: there is no such module"},
+              {KWOPDE_SOURCE_FOLDER "/README.md", "README.md: not a print-dialog extension"},
+              {KWOPDE_OUTDATED_MODULE, "built for version 1.0 of the extension's contract, and this "
+                                       "program has version 2"}};
+  for (const auto &row : rows)
+    EXPECT_THAT([&] { dialog::loadModule(QString::fromStdString(row.file)); },
+                testing::ThrowsMessage<host::Error>(
+                    testing::AllOf(testing::StartsWith(row.file), testing::EndsWith(row.why))));
 }
 
 }  // namespace
