@@ -1,11 +1,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <fstream>
-
 #include "host/Error.h"
 #include "host/PpdSession.h"
 #include "host/Script.h"
+#include "tests/support/TemporaryFolder.h"
 #include "tests/support/TestPpd.h"
 
 namespace kwopde::test {
@@ -18,9 +17,8 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 
 std::string written(const std::string &name, const std::string &text) {
-  std::string path = testing::TempDir() + name;
-  std::ofstream(path) << text;
-  return path;
+  static const TemporaryFolder folder;
+  return folder.write(name, text);
 }
 
 std::string whyNot(const std::string &path) {
