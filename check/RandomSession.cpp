@@ -155,7 +155,7 @@ int runSession(const Subject &subject, const std::string &script, std::ostream &
   std::istringstream lines(script);
   int count = 0;
   for (std::string line; std::getline(lines, line);) {
-    log << line << std::endl;
+    log << line << '\n' << std::flush;
     std::istringstream command(line);
     const bool wasRun = runner.run(command);
     if (wasRun) ++count;

@@ -23,6 +23,7 @@
 #include "host/Error.h"
 #include "host/PrintJob.h"
 #include "host/PrintQueue.h"
+#include "tests/support/TemporaryFolder.h"
 #include "tests/support/TestPpd.h"
 
 namespace kwopde::test {
@@ -38,10 +39,8 @@ std::string folder() {
 
 /// A document of `size` bytes that no filter can convert unless it begins with `start`.
 std::string document(const std::string &name, const std::string &start, std::size_t size = 0) {
-  std::string path = testing::TempDir() + name;
-  std::ofstream file(path);
-  file << start << std::string(size, 'x');
-  return path;
+  static const TemporaryFolder folder;
+  return folder.write(name, start + std::string(size, 'x'));
 }
 
 std::string contents(const std::string &path) {

@@ -1,10 +1,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <fstream>
-
 #include "host/Error.h"
 #include "host/PpdSession.h"
+#include "tests/support/TemporaryFolder.h"
 #include "tests/support/TestPpd.h"
 
 namespace kwopde::test {
@@ -17,9 +16,8 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 
 std::string written(const std::string &name, const std::string &text) {
-  std::string path = testing::TempDir() + name;
-  std::ofstream(path) << text;
-  return path;
+  static const TemporaryFolder folder;
+  return folder.write(name, text);
 }
 
 std::string whyNot(const std::string &path) {

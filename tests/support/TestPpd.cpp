@@ -30,7 +30,7 @@ TestPpd::TestPpd(const std::string &options) {
   const std::string text = ppdText(options);
   std::FILE *file = std::tmpfile();
   std::fwrite(text.data(), 1, text.size(), file);
-  std::rewind(file);
+  std::fseek(file, 0, SEEK_SET);
   ppd_.reset(ppdOpen(file));
   std::fclose(file);
   if (!ppd_) throw std::runtime_error("the test's PPD is broken: " + text);
