@@ -1,5 +1,5 @@
 // The bundle's classes as an AppKit print dialog sees them: the contract of platform/PlugIn.h and
-// platform/Panel.h, with its operations under their full names. nil is allowed for every argument.
+// platform/Panel.h, with its operations under their full names. nil is allowed for every object.
 #pragma once
 
 #import <AppKit/AppKit.h>
@@ -13,6 +13,8 @@
 
 /// The principal class.
 @interface KWOPDEPlugIn : NSObject {
+  NSBundle *pluginBundle;  // the host's
+  NSMutableArray *PDEs;    // owned
   struct KWOPDEPlugInParts *parts;
 }
 - (BOOL)initWithBundle:(NSBundle *)bundle;
@@ -23,10 +25,16 @@
 + (void)setTraceSink:(void *)sink;
 @end
 
-/// What MediaPDE, Media7032PDE, ColorPDE and SharpenPDE are.
+/// What MediaPDE, Media7032PDE, ColorPDE and SharpenPDE are. What they answer is owned by the
+/// panel: the view and the name live as long as it, the kind and the keys for good.
+///
+/// A panel class also answers every action of its options ("changePrintQualityOption:", whose
+/// sender is ignored) and a setter for every outlet ("setPrintQualityPopUp:"). Both come from the
+/// tables of its options, so that a new option needs nothing here.
 @interface KWOPDEPanel : NSObject {
   struct KWOPDEPanelParts *parts;
 }
+/// Returns nil when the PPD lacks the panel's key options.
 - (id)initWithCallback:(id)callback andBundle:(NSBundle *)bundle;
 - (NSView *)panelView;
 - (NSString *)panelName;

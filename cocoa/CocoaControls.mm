@@ -25,18 +25,16 @@ void CocoaPopUpButton::addItem(MenuItem item) {
                                                   action:NULL
                                            keyEquivalent:@""] autorelease];
   [[view_ menu] addItem:added];
-  items_.push_back(std::move(item));
+  items_[static_cast<int>([view_ numberOfItems]) - 1] = std::move(item);
   if ([view_ indexOfSelectedItem] < 0) [view_ selectItemAtIndex:0];
 }
 
 const MenuItem *CocoaPopUpButton::itemAtIndex(int index) const {
-  const auto count = static_cast<std::size_t>([view_ numberOfItems]);
-  const auto i = static_cast<std::size_t>(index);
-  if (index < 0 || i >= count) return nullptr;
-  // Items that somebody else has added have a title only.
-  for (auto next = items_.size(); next < count; ++next)
-    items_.push_back({textOf([view_ itemTitleAtIndex:static_cast<NSInteger>(next)]), nullptr});
-  return &items_[i];
+  if (index < 0 || index >= [view_ numberOfItems]) return nullptr;
+  NSMenuItem *item = [view_ itemAtIndex:index];
+  MenuItem &found = items_[index];
+  found.title = textOf([item title]);
+  return &found;
 }
 
 void CocoaSlider::setDoubleValue(double value) {
@@ -46,16 +44,6 @@ void CocoaSlider::setDoubleValue(double value) {
 void CocoaTextField::setStringValue(std::string_view text) {
   NSString *string = stringFrom(text);
   [view_ setStringValue:string ? string : @""];
-}
-
-CocoaPanelView::CocoaPanelView(NSView *view, NSObject *owner)
-    : CocoaControl([view retain]), owner_([owner retain]) {}
-
-CocoaPanelView::~CocoaPanelView() {
-  controls_.clear();
-  [view_ removeFromSuperview];
-  [view_ release];
-  [owner_ release];
 }
 
 TextField *CocoaPanelView::viewWithTag(int tag) {

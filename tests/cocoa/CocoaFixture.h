@@ -5,13 +5,23 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <string>
+#include <vector>
 
 #include "cocoa/BundleClasses.h"
+#include "platform/LogSink.h"
 
 /// A host that shows a PPD and answers no requests.
 @interface TestHost : NSObject {
 @public
   ppd_file_t *ppd;  // borrowed
+}
+@end
+
+/// A host that marks what it is asked for, and remembers it as "KEY=CHOICE".
+@interface MarkingHost : TestHost {
+@public
+  NSMutableArray *requests;  // owned
 }
 @end
 
@@ -29,10 +39,12 @@ private:
   NSAutoreleasePool *pool_;
 };
 
-class CocoaTest : public testing::Test {
+std::string text(NSString *string);
+
+class CocoaTest : public testing::Test, public LogSink {
 protected:
   CocoaTest();
-  ~CocoaTest() override { [host release]; }
+  ~CocoaTest() override;
 
   /// Returns a new plug-in with the bundle, owned by the caller.
   KWOPDEPlugIn *newPlugIn(NSBundle *itsBundle) const;
@@ -40,15 +52,23 @@ protected:
 
   /// Returns a new panel of the class, owned by the caller; nil when it was refused.
   template <class P>
-  P *newPanel(NSString *className) const {
-    return [[NSClassFromString(className) alloc] initWithCallback:host andBundle:bundle];
+  P *newPanel(NSString *className, TestHost *itsHost) const {
+    return [[NSClassFromString(className) alloc] initWithCallback:itsHost andBundle:bundle];
   }
+  template <class P>
+  P *newPanel(NSString *className) const {
+    return newPanel<P>(className, host);
+  }
+
+  void writeLine(std::string_view line) override { trace.emplace_back(line); }
 
   Pool pool;
   NSString *const type = @"BDB091F4-E57F-11D3-B5CC-0050E4603277";  // that yields panels
   NSBundle *const bundle;
   std::unique_ptr<ppd_file_t, void (*)(ppd_file_t *)> ppd;  // of model 7032, with every option
   TestHost *const host;
+  MarkingHost *const markingHost;
+  std::vector<std::string> trace;
 };
 
 }  // namespace kwopde::test

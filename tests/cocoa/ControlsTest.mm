@@ -2,17 +2,24 @@
 #include "tests/cocoa/CocoaFixture.h"
 
 namespace kwopde::test {
+namespace {
 
 class ControlsTest : public CocoaTest {
 protected:
-  ~ControlsTest() override { [panel_ release]; }
+  ~ControlsTest() override { drop(); }
 
   /// Shows a panel of the class, as a dialog opens it.
-  void show(NSString *className) {
-    panel_ = newPanel<KWOPDEPanel>(className);
+  void show(NSString *className, TestHost *itsHost) {
+    panel_ = newPanel<KWOPDEPanel>(className, itsHost);
     [panel_ restoreValuesAndReturnError:NULL];
     [panel_ panelView];
     [panel_ willShow];
+  }
+  void show(NSString *className) { show(className, host); }
+
+  void drop() {
+    [panel_ release];
+    panel_ = nil;
   }
 
   template <class Control>
@@ -20,12 +27,15 @@ protected:
     return [[panel_ controls] objectForKey:outlet];
   }
 
+  static BOOL work(NSControl *control) {
+    return [control sendAction:[control action] to:[control target]];
+  }
+
   /// What a field shows once its slider was dragged to `value`.
   std::string shownAfterDrag(NSString *slider, double value, NSString *field) const {
     [control<NSSlider>(slider) setDoubleValue:value];
-    NSSlider *dragged = control<NSSlider>(slider);
-    [dragged sendAction:[dragged action] to:[dragged target]];
-    return [[control<NSTextField>(field) stringValue] UTF8String];
+    work(control<NSSlider>(slider));
+    return text([control<NSTextField>(field) stringValue]);
   }
 
   KWOPDEPanel *panel_ = nil;
@@ -39,4 +49,5 @@ TEST_F(ControlsTest, CutASlidersValueTowardZero) {
   EXPECT_EQ(shownAfterDrag(@"brightnessSlider", -34.7, @"brightnessLabel"), "-34");
 }
 
+}  // namespace
 }  // namespace kwopde::test
