@@ -14,6 +14,8 @@ bool CocoaInterfaceLoader::loadNibNamed(std::string_view name, InterfaceOwner &o
   NSView *top = [outlets objectForKey:@"pdeView"];
   if (!loaded || ![top isKindOfClass:[NSView class]]) return false;
   const auto view = std::make_shared<CocoaPanelView>(top);
+  // Loading leaves the file's own reference to whom it was loaded for.
+  [top release];
   forEach<NSString>([outlets keyEnumerator], [&](NSString *outlet) {
     if (const auto control = view->control([outlets objectForKey:outlet]))
       owner.setOutlet(textOf(outlet), control);

@@ -4,6 +4,7 @@
 #import <AppKit/AppKit.h>
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -14,7 +15,15 @@
 /// A host that shows a PPD and answers no requests.
 @interface TestHost : NSObject {
 @public
-  ppd_file_t *ppd;  // borrowed
+  ppd_file_t *ppd;                     // borrowed
+  const std::function<void()> *atEnd;  // called when it is gone; borrowed, or null
+}
+@end
+
+/// A view that says when it is gone.
+@interface TestView : NSView {
+@public
+  const std::function<void()> *atEnd;  // borrowed
 }
 @end
 
@@ -59,6 +68,9 @@ protected:
   P *newPanel(NSString *className) const {
     return newPanel<P>(className, host);
   }
+
+  /// Puts a view into `view` that calls `atEnd` when it is gone.
+  static void addTestView(NSView *view, const std::function<void()> &atEnd);
 
   void writeLine(std::string_view line) override { trace.emplace_back(line); }
 

@@ -4,6 +4,17 @@
 - (ppd_file_t *)ppdFile {
   return ppd;
 }
+- (void)dealloc {
+  if (atEnd) (*atEnd)();
+  [super dealloc];
+}
+@end
+
+@implementation TestView
+- (void)dealloc {
+  (*atEnd)();
+  [super dealloc];
+}
 @end
 
 @implementation MarkingHost
@@ -42,6 +53,13 @@ CocoaTest::~CocoaTest() {
   [(id)[bundle principalClass] setTraceSink:nullptr];
   [host release];
   [markingHost release];
+}
+
+void CocoaTest::addTestView(NSView *view, const std::function<void()> &atEnd) {
+  TestView *added = [[TestView alloc] init];
+  added->atEnd = &atEnd;
+  [view addSubview:added];
+  [added release];
 }
 
 KWOPDEPlugIn *CocoaTest::newPlugIn(NSBundle *itsBundle) const {

@@ -49,5 +49,18 @@ TEST_F(ControlsTest, CutASlidersValueTowardZero) {
   EXPECT_EQ(shownAfterDrag(@"brightnessSlider", -34.7, @"brightnessLabel"), "-34");
 }
 
+TEST_F(ControlsTest, GoWithTheirPanel) {
+  int gone = 0;
+  const std::function<void()> count = [&] { ++gone; };
+  {
+    const Pool inner;
+    show(@"ColorPDE");
+    addTestView([panel_ panelView], count);
+    addTestView(control<NSSlider>(@"redSlider"), count);
+    drop();
+  }
+  EXPECT_EQ(gone, 2);
+}
+
 }  // namespace
 }  // namespace kwopde::test
