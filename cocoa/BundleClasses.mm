@@ -210,6 +210,9 @@ static void performAction(KWOPDEPanel *self, SEL action, id) {
 
 - (void)dealloc {
   if (parts) {
+    PanelBase &core = [self core];
+    if (const auto *view = dynamic_cast<CocoaPanelView *>(core.pdeView.get()))
+      view->disconnect(self);
     [parts->outlets release];
     delete parts;
   }

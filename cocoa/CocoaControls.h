@@ -86,6 +86,9 @@ public:
   /// The control for `view`, made on the first call; null when it is of no kind that a panel uses.
   std::shared_ptr<View> control(NSView *view);
 
+  /// Stops every control that sends its action to `target`: they may outlive it.
+  void disconnect(id target) const;
+
 private:
   std::vector<std::shared_ptr<View>> controls_;
 };

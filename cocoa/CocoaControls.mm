@@ -5,6 +5,20 @@
 
 namespace kwopde::cocoa {
 
+namespace {
+
+/// Stops the controls at `view` and below it.
+void disconnectBelow(NSView *view, id target) {
+  if ([view isKindOfClass:[NSControl class]] && [(NSControl *)view target] == target) {
+    [(NSControl *)view setTarget:nil];
+    [(NSControl *)view setAction:NULL];
+  }
+  forEach<NSView>([[view subviews] objectEnumerator],
+                  [&](NSView *below) { disconnectBelow(below, target); });
+}
+
+}  // namespace
+
 void CocoaPopUpButton::removeAllItems() {
   items_.clear();
   [view_ removeAllItems];
@@ -58,6 +72,16 @@ std::shared_ptr<View> CocoaPanelView::control(NSView *view) {
   auto control = makeControl(view);
   if (control) controls_.push_back(control);
   return control;
+}
+
+void CocoaPanelView::disconnect(id target) const {
+  // What is retained on the way is let go here, so that nothing outlives the view for it.
+  NSAutoreleasePool *pool = [[NSAutoreleasePool alloc] init];
+  disconnectBelow(view_, target);
+  // A host may have moved some of them elsewhere.
+  for (const auto &control : controls_)
+    disconnectBelow(static_cast<NSView *>(control->nativeView()), target);
+  [pool release];
 }
 
 std::shared_ptr<View> makeControl(NSView *view) {

@@ -62,5 +62,26 @@ TEST_F(ControlsTest, GoWithTheirPanel) {
   EXPECT_EQ(gone, 2);
 }
 
+TEST_F(ControlsTest, DoNothingOnceTheirPanelIsGone) {
+  NSPopUpButton *popUp;
+  NSSlider *slider;
+  {
+    const Pool inner;
+    show(@"SharpenPDE", markingHost);
+    popUp = [control<NSPopUpButton>(@"enableFilterPopUp") retain];
+    slider = [control<NSSlider>(@"amountSlider") retain];
+    [slider removeFromSuperview];
+    drop();
+  }
+  trace.clear();
+  [popUp selectItemAtIndex:1];
+  EXPECT_FALSE(work(popUp));
+  EXPECT_FALSE(work(slider));
+  EXPECT_TRUE(trace.empty());
+  EXPECT_EQ([markingHost->requests count], 0u);
+  [popUp release];
+  [slider release];
+}
+
 }  // namespace
 }  // namespace kwopde::test
