@@ -9,6 +9,7 @@
 #include "panels/Media7032PDE.h"
 #include "panels/MediaPDE.h"
 #include "panels/SharpenPDE.h"
+#include "platform/Kept.h"
 #include "plugin/KWOPDEPlugin.h"
 #include "plugin/PDELogging.h"
 
@@ -30,6 +31,14 @@ public:
 private:
   std::optional<std::string> text_;
 };
+
+/// Returns a string object with this text that is the same for every call, and lives for good.
+NSString *constantString(std::string_view text) {
+  static auto *const strings = new std::map<std::string, NSString *, std::less<>>;
+  auto found = strings->find(text);
+  if (found == strings->end()) found = strings->emplace(text, [stringFrom(text) retain]).first;
+  return found->second;
+}
 
 /// A summary that stands for the dictionary which the host gets. The trace shows it as the core
 /// does, in the order of its keys.
@@ -112,7 +121,9 @@ struct KWOPDEPlugInParts {
 
 struct KWOPDEPanelParts {
   std::shared_ptr<PanelBase> core;
-  NSMutableDictionary *outlets;  // while they are being set; owned
+  NSString *thePDEName;              // owned
+  NSMutableArray *supportedOptions;  // made once, kept for good
+  NSMutableDictionary *outlets;      // while they are being set; owned
 };
 
 @implementation KWOPDEPlugIn
@@ -204,7 +215,7 @@ static void performAction(KWOPDEPanel *self, SEL action, id) {
     [self release];
     return nil;
   }
-  parts = new KWOPDEPanelParts{core, nil};
+  parts = new KWOPDEPanelParts{core, nil, nil, nil};
   return self;
 }
 
@@ -213,6 +224,10 @@ static void performAction(KWOPDEPanel *self, SEL action, id) {
     PanelBase &core = [self core];
     if (const auto *view = dynamic_cast<CocoaPanelView *>(core.pdeView.get()))
       view->disconnect(self);
+    core.releaseChoices();
+    core.pdePluginCallbackObject.reset();
+    [parts->thePDEName release];
+    core.pdeView.reset();
     [parts->outlets release];
     delete parts;
   }
@@ -233,16 +248,22 @@ static void performAction(KWOPDEPanel *self, SEL action, id) {
   return nativeOf([self core].panelView());
 }
 - (NSString *)panelName {
-  return stringFrom([self core].panelName());
+  const std::string *name = [self core].panelName();
+  if (!parts->thePDEName) parts->thePDEName = [stringFrom(name) retain];
+  return parts->thePDEName;
 }
 - (NSString *)panelKind {
-  return stringFrom([self core].panelKind());
+  return constantString([self core].panelKind());
 }
 - (NSArray *)supportedPPDOptionKeys {
-  NSMutableArray *keys = [NSMutableArray array];
-  for (const std::string &key : [self core].supportedPPDOptionKeys())
-    [keys addObject:stringFrom(key)];
-  return keys;
+  const std::vector<std::string> &keys = [self core].supportedPPDOptionKeys();
+  if (!parts->supportedOptions) {
+    parts->supportedOptions = [[NSMutableArray alloc] initWithCapacity:keys.capacity()];
+    for (const std::string &key : keys) [parts->supportedOptions addObject:stringFrom(key)];
+    // Hosts may look at the list after the panel is gone.
+    kwopde::keepForever({parts->supportedOptions, [](id) {}});
+  }
+  return parts->supportedOptions;
 }
 - (void)willShow {
   [self core].willShow();

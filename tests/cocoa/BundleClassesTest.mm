@@ -7,6 +7,7 @@ namespace kwopde::test {
 namespace {
 
 using testing::Contains;
+using testing::ElementsAre;
 
 using BundleClassesTest = CocoaTest;
 
@@ -50,6 +51,60 @@ TEST_F(BundleClassesTest, RetainTheBundleWhenRefusedToo) {
     EXPECT_EQ([host retainCount], hosts) << text(name);
     EXPECT_EQ([bundle retainCount], bundles + 1) << text(name);
   }
+}
+
+TEST_F(BundleClassesTest, OwnWhatTheyAnswer) {
+  KWOPDEPanel *panel = newPanel<KWOPDEPanel>(@"SharpenPDE");
+  NSString *name;
+  NSString *kind;
+  NSArray *keys;
+  {
+    const Pool inner;
+    name = [panel panelName];
+    kind = [panel panelKind];
+    keys = [panel supportedPPDOptionKeys];
+  }
+  EXPECT_EQ([panel panelName], name);
+  EXPECT_EQ([panel supportedPPDOptionKeys], keys);
+  EXPECT_EQ(text(name), "Sharpen");
+  [panel release];
+  EXPECT_EQ([keys count], 4u) << "kept when the panel is gone";
+  panel = newPanel<KWOPDEPanel>(@"SharpenPDE");
+  EXPECT_EQ([panel panelKind], kind) << "a constant of the class";
+  EXPECT_EQ(text(kind), "org.kwopde.sharpenkind");
+  [panel release];
+}
+
+TEST_F(BundleClassesTest, EndWithHostThenNameThenView) {
+  std::vector<std::string> ends;
+  NSString *name;
+  NSUInteger names;
+  const std::function<void()> hostEnds = [&] {
+    EXPECT_EQ([name retainCount], names);
+    ends.emplace_back("host");
+  };
+  const std::function<void()> viewEnds = [&] {
+    EXPECT_EQ([name retainCount], names - 1);
+    ends.emplace_back("view");
+  };
+  KWOPDEPanel *panel;
+  {
+    const Pool inner;
+    TestHost *ownHost = [[TestHost alloc] init];
+    ownHost->ppd = ppd.get();
+    ownHost->atEnd = &hostEnds;
+    panel = newPanel<KWOPDEPanel>(@"ColorPDE", ownHost);
+    [ownHost release];
+    name = [[panel panelName] retain];
+    addTestView([panel panelView], viewEnds);
+  }
+  names = [name retainCount];
+  {
+    const Pool inner;
+    [panel release];
+  }
+  EXPECT_THAT(ends, ElementsAre("host", "view"));
+  [name release];
 }
 
 TEST_F(BundleClassesTest, AnswerTheContract) {
