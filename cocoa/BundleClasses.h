@@ -51,6 +51,22 @@
 - (void)getNonPPDSettingsFromPrintSettings;
 - (void)writeNonPPDSettingsToPrintSettings;
 
+// What a panel does inside, as panels/PanelBase.h tells it.
+- (void)initializeUI;
+- (void)updateUI;
+- (void)updateMarkedSelections;
+- (void)querySettingsFromUI;
+- (void)querySettingsFromPPD;
+- (void)saveSettingsToPPD;
+- (void)queryIntFromPPD:(int *)value forKey:(const char *)key;
+- (void)queryDoubleFromPPD:(double *)value forKey:(const char *)key;
+/// `value` is nil or owned by the caller, before and after.
+- (void)queryNSStringFromPPD:(NSString **)value forKey:(const char *)key;
+- (void)saveIntToPPD:(int)value FieldKey:(NSString *)key;
+- (void)saveNSStringToPPD:(NSString *)value FieldKey:(NSString *)key;
+- (int)indexOfMarkedOption:(ppd_option_t *)option forKey:(const char *)key;
+- (void)setViewTitleByTag:(int)tag fromOptions:(ppd_option_t *)option;
+
 // For tools; not traced.
 /// The keyword of every option that the panel handles.
 - (NSArray *)optionKeys;
@@ -63,6 +79,9 @@
 @interface Media7032PDE : KWOPDEPanel
 @end
 @interface ColorPDE : KWOPDEPanel
+- (void)saveDoubleToPPD:(double)value FieldKey:(NSString *)key;
+/// `value` is nil or owned by the caller, before and after.
+- (void)queryTextFieldFromUI:(NSString **)value FieldUI:(NSTextField *)field;
 @end
 @interface SharpenPDE : KWOPDEPanel
 @end

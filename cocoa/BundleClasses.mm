@@ -27,9 +27,32 @@ public:
   explicit Argument(NSString *string)
       : text_(string ? std::optional(textOf(string)) : std::nullopt) {}
   operator const std::string *() const { return text_ ? &*text_ : nullptr; }
+  const std::optional<std::string> &text() const { return text_; }
 
 private:
   std::optional<std::string> text_;
+};
+
+/// A caller's string that the core replaces. The caller owns it before and after; a string that the
+/// core leaves as it was stays the same object.
+class StringField {
+public:
+  explicit StringField(NSString **place) : place_(place), before_(Argument(*place).text()) {
+    text = before_;
+  }
+  StringField(const StringField &) = delete;
+  StringField &operator=(const StringField &) = delete;
+  ~StringField() {
+    if (text == before_) return;
+    [*place_ release];
+    *place_ = text ? [stringFrom(&*text) retain] : nil;
+  }
+
+  std::optional<std::string> text;
+
+private:
+  NSString **place_;
+  std::optional<std::string> before_;
 };
 
 /// Returns a string object with this text that is the same for every call, and lives for good.
@@ -300,6 +323,47 @@ static void performAction(KWOPDEPanel *self, SEL action, id) {
   [self core].writeNonPPDSettingsToPrintSettings();
 }
 
+- (void)initializeUI {
+  [self core].initializeUI();
+}
+- (void)updateUI {
+  [self core].updateUI();
+}
+- (void)updateMarkedSelections {
+  [self core].updateMarkedSelections();
+}
+- (void)querySettingsFromUI {
+  [self core].querySettingsFromUI();
+}
+- (void)querySettingsFromPPD {
+  [self core].querySettingsFromPPD();
+}
+- (void)saveSettingsToPPD {
+  [self core].saveSettingsToPPD();
+}
+- (void)queryIntFromPPD:(int *)value forKey:(const char *)key {
+  [self core].queryIntFromPPD(value, key);
+}
+- (void)queryDoubleFromPPD:(double *)value forKey:(const char *)key {
+  [self core].queryDoubleFromPPD(value, key);
+}
+- (void)queryNSStringFromPPD:(NSString **)value forKey:(const char *)key {
+  StringField field(value);
+  [self core].queryNSStringFromPPD(&field.text, key);
+}
+- (void)saveIntToPPD:(int)value FieldKey:(NSString *)key {
+  [self core].saveIntToPPD(value, textOf(key));
+}
+- (void)saveNSStringToPPD:(NSString *)value FieldKey:(NSString *)key {
+  [self core].saveNSStringToPPD(textOf(value), textOf(key));
+}
+- (int)indexOfMarkedOption:(ppd_option_t *)option forKey:(const char *)key {
+  return [self core].indexOfMarkedOption(option, key);
+}
+- (void)setViewTitleByTag:(int)tag fromOptions:(ppd_option_t *)option {
+  [self core].setViewTitleByTag(tag, option);
+}
+
 - (NSArray *)optionKeys {
   NSMutableArray *keys = [NSMutableArray array];
   for (const auto &option : [self core].options()) [keys addObject:stringFrom(option.key)];
@@ -334,6 +398,16 @@ KWOPDE_PANEL_CLASS(Media7032PDE)
 
 @implementation ColorPDE
 KWOPDE_PANEL_CLASS(ColorPDE)
+
+- (void)saveDoubleToPPD:(double)value FieldKey:(NSString *)key {
+  static_cast<kwopde::ColorPDE &>([self core]).saveDoubleToPPD(value, textOf(key));
+}
+- (void)queryTextFieldFromUI:(NSString **)value FieldUI:(NSTextField *)field {
+  StringField text(value);
+  CocoaTextField control(field);
+  static_cast<kwopde::ColorPDE &>([self core])
+      .queryTextFieldFromUI(&text.text, field ? &control : nullptr);
+}
 @end
 
 @implementation SharpenPDE

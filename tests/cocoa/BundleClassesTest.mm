@@ -1,5 +1,6 @@
 // The bundle's objects: what they retain and own, what they answer, and what the trace calls them.
 #include <gmock/gmock.h>
+#include <objc/runtime.h>
 
 #include "tests/cocoa/CocoaFixture.h"
 
@@ -146,6 +147,80 @@ TEST_F(BundleClassesTest, DoWithoutResources) {
   [plugIn release];
 }
 
+// Everything that the panels answer beyond the contract.
+TEST_F(BundleClassesTest, AnswerEveryOperationBySelector) {
+  struct Row {
+    NSString *className;
+    std::vector<const char *> operations;
+  };
+  const std::vector<const char *> shared{"initializeUI",
+                                         "updateUI",
+                                         "updateMarkedSelections",
+                                         "querySettingsFromUI",
+                                         "querySettingsFromPPD",
+                                         "saveSettingsToPPD",
+                                         "queryIntFromPPD:forKey:",
+                                         "queryDoubleFromPPD:forKey:",
+                                         "queryNSStringFromPPD:forKey:",
+                                         "saveIntToPPD:FieldKey:",
+                                         "saveNSStringToPPD:FieldKey:",
+                                         "indexOfMarkedOption:forKey:",
+
+                                         "setViewTitleByTag:fromOptions:"};
+  const std::vector<const char *> own[] = {
+      {"changePrintQualityOption:", "changePrintFinishOption:", "changeRotateImageOption:",
+       "changeMirrorImageOption:"},
+      {"changePrintQualityOption:", "changePrintFinishOption:", "changeMatteLevelOption:",
+       "changeDustRemovalOption:", "changeRotateImageOption:", "changeMirrorImageOption:"},
+      {"changeColorModeOption:", "changeBrightnessOption:", "changeContrastOption:",
+       "changeSaturationOption:", "changeGammaOption:", "changeRedOption:", "changeGreenOption:",
+       "changeBlueOption:", "saveDoubleToPPD:FieldKey:", "queryTextFieldFromUI:FieldUI:"},
+      {"changeEnableFilterOption:", "changeAmountOption:", "changeRadiusOption:",
+       "changeThresholdOption:"}};
+  for (std::size_t i = 0; i < std::size(own); ++i) {
+    KWOPDEPanel *panel = newPanel<KWOPDEPanel>(kPanelClasses[i]);
+    for (const char *selector : shared)
+      EXPECT_TRUE([panel respondsToSelector:sel_registerName(selector)]) << selector;
+    for (std::size_t j = 0; j < std::size(own); ++j)
+      for (const char *selector : own[j])
+        EXPECT_EQ([panel respondsToSelector:sel_registerName(selector)],
+                  std::find_if(own[i].begin(), own[i].end(),
+                               [&](const char *name) {
+                                 return std::string_view(name) == selector;
+                               }) != own[i].end())
+            << text(kPanelClasses[i]) << " " << selector;
+    [panel release];
+  }
+}
+
+TEST_F(BundleClassesTest, DoWhatTheOperationsSay) {
+  ColorPDE *panel = newPanel<ColorPDE>(@"ColorPDE", markingHost);
+  int number = -1;
+  ppdMarkOption(ppd.get(), "imageBrightness", "20");
+  [panel queryIntFromPPD:&number forKey:"imageBrightness"];
+  EXPECT_EQ(number, 20);
+  double real = -1;
+  [panel queryDoubleFromPPD:&real forKey:"imageGamma"];
+  EXPECT_EQ(real, 1);
+  NSString *string = [@"before" copy];
+  [panel queryNSStringFromPPD:&string forKey:"none"];
+  EXPECT_EQ(text(string), "before");
+  [panel queryNSStringFromPPD:&string forKey:"imageBrightness"];
+  EXPECT_EQ(text(string), "20");
+  NSTextField *field = [[[NSTextField alloc] init] autorelease];
+  [field setStringValue:@"typed"];
+  [panel queryTextFieldFromUI:&string FieldUI:field];
+  EXPECT_EQ(text(string), "typed");
+  [string release];
+  [panel saveIntToPPD:-5 FieldKey:@"a"];
+  [panel saveDoubleToPPD:2.2 FieldKey:@"b"];
+  [panel saveNSStringToPPD:@"x" FieldKey:@"c"];
+  EXPECT_EQ(text([markingHost->requests componentsJoinedByString:@" "]), "a=-5 b=2.200000 c=x");
+  EXPECT_EQ([panel indexOfMarkedOption:ppdFindOption(ppd.get(), "colorMode") forKey:"colorMode"],
+            0);
+  [panel release];
+}
+
 TEST_F(BundleClassesTest, AreNamedInTheTraceAsTheyNameThemselves) {
   KWOPDEPlugIn *plugIn = newPlugIn();
   EXPECT_THAT(trace, Contains(formatted(@"BEGIN self(%@) initWithBundle:(%@, %p)", plugIn, bundle,
@@ -165,6 +240,20 @@ TEST_F(BundleClassesTest, AreNamedInTheTraceAsTheyNameThemselves) {
   NSDictionary *summary = [color summaryInfo];
   EXPECT_THAT(trace.back(), testing::EndsWith(formatted(@"}, %p)=", summary)));
   [plugIn release];
+}
+
+// A description is part of the line's format, as it is for every other object of the core.
+TEST_F(BundleClassesTest, HaveTheirDescriptionReadAsPartOfTheFormat) {
+  const Class described = objc_allocateClassPair(NSClassFromString(@"SharpenPDE"), "Described", 0);
+  const auto description = [](id, SEL) -> id { return @"50 %d"; };
+  class_addMethod(described, @selector(description),
+                  reinterpret_cast<IMP>(reinterpret_cast<void (*)()>(+description)), "@@:");
+  objc_registerClassPair(described);
+  KWOPDEPanel *panel = [[described alloc] initWithCallback:host andBundle:bundle];
+  trace.clear();
+  [panel saveIntToPPD:7 FieldKey:@"key"];
+  EXPECT_EQ(trace.front(), "BEGIN self(50 key) saveIntToPPD:(7, %d)");
+  [panel release];
 }
 
 }  // namespace
