@@ -11,6 +11,19 @@
 - (BOOL)willChangePPDOptionKeyValue:(NSString *)key ppdChoice:(NSString *)choice;
 @end
 
+/// One choice of a PPD option, as every item of a pop-up menu carries it as its represented object.
+/// The operations are those of choice/PDEChoice.h.
+@interface PDEChoice : NSObject {
+  struct PDEChoiceParts *parts;
+}
++ (id)choiceWithChoice:(ppd_choice_t *)choice;
+- (id)initWithChoice:(ppd_choice_t *)choice;
+- (NSString *)userTitle;
+- (NSString *)ppdTitle;
+- (ppd_choice_t *)choice;
+- (BOOL)isDefaultChoice;
+@end
+
 /// The principal class.
 @interface KWOPDEPlugIn : NSObject {
   NSBundle *pluginBundle;  // the host's
@@ -65,6 +78,7 @@
 - (void)saveIntToPPD:(int)value FieldKey:(NSString *)key;
 - (void)saveNSStringToPPD:(NSString *)value FieldKey:(NSString *)key;
 - (int)indexOfMarkedOption:(ppd_option_t *)option forKey:(const char *)key;
+- (PDEChoice *)selectionForPopUp:(NSPopUpButton *)popUp withKey:(NSString *)key;
 - (void)setViewTitleByTag:(int)tag fromOptions:(ppd_option_t *)option;
 
 // For tools; not traced.

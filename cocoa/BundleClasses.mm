@@ -2,6 +2,7 @@
 
 #include "cocoa/CocoaBundle.h"
 #include "cocoa/CocoaCallback.h"
+#include "cocoa/CocoaChoice.h"
 #include "cocoa/CocoaControls.h"
 #include "cocoa/CocoaInterfaceLoader.h"
 #include "cocoa/SystemLog.h"
@@ -78,6 +79,7 @@ public:
   explicit CocoaPanel(KWOPDEPanel *object) : NativeObject<P>(object) {}
 
 protected:
+  kwopde::ChoiceMaker choiceMaker() const override { return &makeChoice; }
   std::shared_ptr<kwopde::Dictionary> makeSummary(std::size_t capacity) const override {
     return std::make_shared<CocoaSummary>([NSMutableDictionary dictionaryWithCapacity:capacity],
                                           capacity);
@@ -359,6 +361,10 @@ static void performAction(KWOPDEPanel *self, SEL action, id) {
 }
 - (int)indexOfMarkedOption:(ppd_option_t *)option forKey:(const char *)key {
   return [self core].indexOfMarkedOption(option, key);
+}
+- (PDEChoice *)selectionForPopUp:(NSPopUpButton *)popUp withKey:(NSString *)key {
+  CocoaPopUpButton button(popUp);
+  return nativeOf([self core].selectionForPopUp(popUp ? &button : nullptr, textOf(key)));
 }
 - (void)setViewTitleByTag:(int)tag fromOptions:(ppd_option_t *)option {
   [self core].setViewTitleByTag(tag, option);

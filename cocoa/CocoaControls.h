@@ -12,6 +12,11 @@
 #include "cocoa/NativeObject.h"
 #include "platform/Controls.h"
 
+/// What a menu item's represented object answers when it stands for an object of the core.
+@protocol KWOPDECoreObject
+- (std::shared_ptr<kwopde::Object>)coreObject;
+@end
+
 namespace kwopde::cocoa {
 
 /// Calls `visit` with every object of `objects`. GCC has no other loop over a collection.

@@ -38,16 +38,19 @@ void CocoaPopUpButton::addItem(MenuItem item) {
   NSMenuItem *added = [[[NSMenuItem alloc] initWithTitle:title ? title : @""
                                                   action:NULL
                                            keyEquivalent:@""] autorelease];
+  [added setRepresentedObject:nativeOf(item.representedObject.get())];
   [[view_ menu] addItem:added];
-  items_[static_cast<int>([view_ numberOfItems]) - 1] = std::move(item);
   if ([view_ indexOfSelectedItem] < 0) [view_ selectItemAtIndex:0];
 }
 
 const MenuItem *CocoaPopUpButton::itemAtIndex(int index) const {
   if (index < 0 || index >= [view_ numberOfItems]) return nullptr;
   NSMenuItem *item = [view_ itemAtIndex:index];
+  id represented = [item representedObject];
   MenuItem &found = items_[index];
   found.title = textOf([item title]);
+  found.representedObject =
+      [represented respondsToSelector:@selector(coreObject)] ? [represented coreObject] : nullptr;
   return &found;
 }
 

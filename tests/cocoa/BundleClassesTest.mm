@@ -76,11 +76,14 @@ TEST_F(BundleClassesTest, OwnWhatTheyAnswer) {
   [panel release];
 }
 
-TEST_F(BundleClassesTest, EndWithHostThenNameThenView) {
+TEST_F(BundleClassesTest, EndWithChoicesThenHostThenNameThenView) {
   std::vector<std::string> ends;
+  PDEChoice *choice;
   NSString *name;
+  NSUInteger choices;
   NSUInteger names;
   const std::function<void()> hostEnds = [&] {
+    EXPECT_EQ([choice retainCount], choices - 1) << "the panel's list";
     EXPECT_EQ([name retainCount], names);
     ends.emplace_back("host");
   };
@@ -98,13 +101,19 @@ TEST_F(BundleClassesTest, EndWithHostThenNameThenView) {
     [ownHost release];
     name = [[panel panelName] retain];
     addTestView([panel panelView], viewEnds);
+    [panel willShow];
+    choice = [[[[[panel controls] objectForKey:@"colorModePopUp"] itemAtIndex:0] representedObject]
+        retain];
   }
+  choices = [choice retainCount];
   names = [name retainCount];
   {
     const Pool inner;
     [panel release];
   }
   EXPECT_THAT(ends, ElementsAre("host", "view"));
+  EXPECT_EQ([choice retainCount], 1u);
+  [choice release];
   [name release];
 }
 
@@ -165,7 +174,7 @@ TEST_F(BundleClassesTest, AnswerEveryOperationBySelector) {
                                          "saveIntToPPD:FieldKey:",
                                          "saveNSStringToPPD:FieldKey:",
                                          "indexOfMarkedOption:forKey:",
-
+                                         "selectionForPopUp:withKey:",
                                          "setViewTitleByTag:fromOptions:"};
   const std::vector<const char *> own[] = {
       {"changePrintQualityOption:", "changePrintFinishOption:", "changeRotateImageOption:",
@@ -239,6 +248,11 @@ TEST_F(BundleClassesTest, AreNamedInTheTraceAsTheyNameThemselves) {
   EXPECT_EQ(trace.back(), formatted(@"END self(%@) panelView:=NSView(%@, %p)", color, view, view));
   NSDictionary *summary = [color summaryInfo];
   EXPECT_THAT(trace.back(), testing::EndsWith(formatted(@"}, %p)=", summary)));
+  NSPopUpButton *popUp = [[color controls] objectForKey:@"colorModePopUp"];
+  trace.clear();
+  [color selectionForPopUp:popUp withKey:@"colorMode"];
+  EXPECT_EQ(trace.front(),
+            formatted(@"BEGIN self(%@) selectionForPopUp:(%@) withKey:(colorMode)", color, popUp));
   [plugIn release];
 }
 

@@ -83,5 +83,41 @@ TEST_F(ControlsTest, DoNothingOnceTheirPanelIsGone) {
   [slider release];
 }
 
+TEST_F(ControlsTest, CarryAChoiceInEveryItem) {
+  show(@"MediaPDE");
+  NSPopUpButton *popUp = control<NSPopUpButton>(@"printQualityPopUp");
+  const ppd_option_t *option = ppdFindOption(ppd.get(), "printQuality");
+  ASSERT_EQ([popUp numberOfItems], option -> num_choices);
+  for (int i = 0; i < option->num_choices; ++i) {
+    PDEChoice *choice = [[popUp itemAtIndex:i] representedObject];
+    EXPECT_EQ([choice choice], &option -> choices[i]);
+    EXPECT_EQ(text([choice userTitle]), option->choices[i].text);
+    EXPECT_EQ([choice userTitle], [choice userTitle]);
+    EXPECT_EQ(text([choice ppdTitle]), option->choices[i].choice);
+    EXPECT_EQ([choice isDefaultChoice],
+              std::string(option->defchoice) == option->choices[i].choice);
+    EXPECT_EQ(text([choice description])
+                  .find(text([NSString stringWithFormat:@"<PDEChoice %p userTitle:", choice])),
+              0u);
+  }
+  [popUp selectItemAtIndex:2];
+  EXPECT_EQ([panel_ selectionForPopUp:popUp withKey:@"printQuality"],
+            [[popUp itemAtIndex:2] representedObject]);
+}
+
+// The item counts, wherever the host has moved it to.
+TEST_F(ControlsTest, AskForTheChoiceOfThePickedItem) {
+  show(@"MediaPDE", markingHost);
+  NSPopUpButton *popUp = control<NSPopUpButton>(@"printQualityPopUp");
+  NSMenuItem *last = [[popUp lastItem] retain];
+  [[popUp menu] removeItem:last];
+  [[popUp menu] insertItem:last atIndex:0];
+  [popUp selectItemAtIndex:0];
+  [panel_ performSelector:@selector(changePrintQualityOption:) withObject:nil];
+  PDEChoice *choice = [last representedObject];
+  EXPECT_EQ(text([markingHost->requests lastObject]), "printQuality=" + text([choice ppdTitle]));
+  [last release];
+}
+
 }  // namespace
 }  // namespace kwopde::test
