@@ -2,20 +2,23 @@
 
 #include "cocoa/CocoaBundle.h"
 #include "cocoa/CocoaCallback.h"
+#include "cocoa/CocoaChoice.h"
+#include "cocoa/CocoaControls.h"
 #include "cocoa/CocoaInterfaceLoader.h"
-#include "cocoa/Strings.h"
 #include "cocoa/SystemLog.h"
 #include "panels/ColorPDE.h"
 #include "panels/Media7032PDE.h"
 #include "panels/MediaPDE.h"
 #include "panels/PanelClasses.h"
 #include "panels/SharpenPDE.h"
+#include "platform/Kept.h"
 #include "plugin/KWOPDEPlugin.h"
 #include "plugin/PDELogging.h"
 
 namespace {
 
 using namespace kwopde::cocoa;
+using kwopde::PanelBase;
 
 SystemLog systemLog;
 CocoaInterfaceLoader interfaceLoader;
@@ -26,44 +29,128 @@ public:
   explicit Argument(NSString *string)
       : text_(string ? std::optional(textOf(string)) : std::nullopt) {}
   operator const std::string *() const { return text_ ? &*text_ : nullptr; }
+  const std::optional<std::string> &text() const { return text_; }
 
 private:
   std::optional<std::string> text_;
 };
 
-/// A new wrapper at every call: it borrows the bundle and has nothing to tell it from another.
-std::shared_ptr<CocoaBundle> wrap(NSBundle *bundle) {
-  return bundle ? std::make_shared<CocoaBundle>(bundle) : nullptr;
+/// A caller's string that the core replaces. The caller owns it before and after; a string that the
+/// core leaves as it was stays the same object.
+class StringField {
+public:
+  explicit StringField(NSString **place) : place_(place), before_(Argument(*place).text()) {
+    text = before_;
+  }
+  StringField(const StringField &) = delete;
+  StringField &operator=(const StringField &) = delete;
+  ~StringField() {
+    if (text == before_) return;
+    [*place_ release];
+    *place_ = text ? [stringFrom(&*text) retain] : nil;
+  }
+
+  std::optional<std::string> text;
+
+private:
+  NSString **place_;
+  std::optional<std::string> before_;
+};
+
+/// Returns a string object with this text that is the same for every call, and lives for good.
+NSString *constantString(std::string_view text) {
+  static auto *const strings = new std::map<std::string, NSString *, std::less<>>;
+  auto found = strings->find(text);
+  if (found == strings->end()) found = strings->emplace(text, [stringFrom(text) retain]).first;
+  return found->second;
 }
 
-std::shared_ptr<CocoaCallback> wrap(id host) {
-  return host ? std::make_shared<CocoaCallback>(host) : nullptr;
+/// A summary that stands for the dictionary which the host gets. The trace shows it as the core
+/// does, in the order of its keys.
+class CocoaSummary final : public NativeObject<kwopde::Dictionary> {
+public:
+  using NativeObject::NativeObject;
+  void appendDescription(std::string &out) const override { Dictionary::appendDescription(out); }
+};
+
+/// A panel of the core that stands for a panel object, which owns it.
+template <class P>
+class CocoaPanel final : public NativeObject<P> {
+public:
+  explicit CocoaPanel(KWOPDEPanel *object) : NativeObject<P>(object) {}
+
+protected:
+  kwopde::ChoiceMaker choiceMaker() const override { return &makeChoice; }
+  std::shared_ptr<kwopde::Dictionary> makeSummary(std::size_t capacity) const override {
+    return std::make_shared<CocoaSummary>([NSMutableDictionary dictionaryWithCapacity:capacity],
+                                          capacity);
+  }
+};
+
+/// "setGammaSlider:" for the outlet "gammaSlider".
+std::string setterOf(std::string_view outlet) {
+  std::string setter = "set" + std::string(outlet) + ":";
+  setter[3] = static_cast<char>(std::toupper(static_cast<unsigned char>(setter[3])));
+  return setter;
+}
+
+/// The outlet that the setter is for.
+NSString *outletOf(SEL setter) {
+  NSString *name = NSStringFromSelector(setter);
+  name = [name substringWithRange:NSMakeRange(3, [name length] - 4)];
+  return [[[name substringToIndex:1] lowercaseString]
+      stringByAppendingString:[name substringFromIndex:1]];
 }
 
 }  // namespace
 
-/// What is in the principal object; a struct of its own, since GCC's objects hold no C++ ones.
+@interface KWOPDEPanel (Core) <KWOPDEOutlets>
+/// Makes the core's panel for an object of this class; null when it is refused.
++ (std::shared_ptr<PanelBase>)makeFor:(KWOPDEPanel *)object
+                             callback:(id)callback
+                               bundle:(NSBundle *)bundle;
+
+/// Makes a panel of the core on no PPD, to ask what the class has; null for no class of panels.
++ (std::shared_ptr<PanelBase>)prototype;
+
+/// The panel of the core that stands for this object.
+- (PanelBase &)core;
+@end
+
+namespace {
+
+/// The principal object of the core, whose panels are objects of the bundle.
+class CocoaPlugIn final : public NativeObject<kwopde::KWOPDEPlugIn> {
+public:
+  using NativeObject::NativeObject;
+
+protected:
+  std::shared_ptr<kwopde::Panel> makePanel(const kwopde::PanelClass &panelClass,
+                                           const std::shared_ptr<kwopde::HostCallback> &host,
+                                           kwopde::Bundle *itsBundle) override {
+    KWOPDEPanel *panel =
+        [[NSClassFromString(stringFrom(panelClass.name)) alloc] initWithCallback:nativeOf(host.get())
+                                                                 andBundle:nativeOf(itsBundle)];
+    if (![panel autorelease]) return nullptr;
+    // Borrowed: the plug-in's array owns the panels.
+    return {std::shared_ptr<void>(), &[panel core]};
+  }
+};
+
+}  // namespace
+
+/// A struct of its own, since GCC's objects hold no C++ ones.
 struct KWOPDEPlugInParts {
-  kwopde::KWOPDEPlugIn core;
-  NSBundle *bundle = nil;  // the host's
-  std::shared_ptr<CocoaBundle> coreBundle;
-  NSMutableArray *PDEs = nil;
+  CocoaPlugIn core;
+  std::shared_ptr<CocoaBundle> bundle;
 };
 
 struct KWOPDEPanelParts {
-  std::shared_ptr<kwopde::Panel> panel;
-  id callback;  // retained
+  std::shared_ptr<PanelBase> core;
+  NSString *thePDEName;              // owned
+  NSMutableArray *supportedOptions;  // made once, kept for good
+  NSMutableDictionary *outlets;      // while they are being set; owned
 };
-
-@interface KWOPDEPanel (Core)
-/// Takes a panel of the core; retains the host for its life, and the bundle for good.
-- (id)initWithPanel:(std::shared_ptr<kwopde::Panel>)panel
-           callback:(id)host
-             bundle:(NSBundle *)bundle;
-/// The panel of the core that an object of this class stands for.
-+ (std::shared_ptr<kwopde::Panel>)makeWithCallback:(std::shared_ptr<kwopde::HostCallback>)host
-                                            bundle:(kwopde::Bundle *)bundle;
-@end
 
 @implementation KWOPDEPlugIn
 + (void)initialize {
@@ -88,135 +175,251 @@ struct KWOPDEPanelParts {
   return &inspector;
 }
 
-/// A host may call initWithBundle: without init.
 - (KWOPDEPlugInParts &)parts {
-  if (!parts) parts = new KWOPDEPlugInParts;
+  // initWithBundle: does not have to be called first.
+  if (!parts) parts = new KWOPDEPlugInParts{CocoaPlugIn(self), nullptr};
   return *parts;
 }
 
 - (BOOL)initWithBundle:(NSBundle *)bundle {
   KWOPDEPlugInParts &own = [self parts];
-  own.bundle = bundle;
-  own.coreBundle = wrap(bundle);
-  return own.core.initWithBundle(own.coreBundle.get());
+  pluginBundle = bundle;
+  own.bundle = bundle ? std::make_shared<CocoaBundle>(bundle) : nullptr;
+  return own.core.initWithBundle(own.bundle.get());
 }
 
 - (NSArray *)PDEPanelsForType:(NSString *)type withHostInfo:(id)host {
-  KWOPDEPlugInParts &own = [self parts];
-  const kwopde::PanelList *panels = own.core.PDEPanelsForType(Argument(type), wrap(host));
+  const auto hostInfo = host ? std::make_shared<CocoaCallback>(host) : nullptr;
+  const auto *panels = [self parts].core.PDEPanelsForType(Argument(type), hostInfo);
   // Kept: the array of an earlier call is never released.
-  own.PDEs = panels ? [[NSMutableArray alloc] initWithCapacity:panels->size()] : nil;
+  PDEs = panels ? [[NSMutableArray alloc] initWithCapacity:3] : nil;
   if (panels)
-    for (const auto &panel : *panels) {
-      const Class panelClass = NSClassFromString(stringFrom(panel->className()));
-      id object = [[panelClass alloc] initWithPanel:panel callback:host bundle:own.bundle];
-      [own.PDEs addObject:[object autorelease]];
-    }
-  return own.PDEs;
+    for (const auto &panel : *panels) [PDEs addObject:nativeOf(panel.get())];
+  return PDEs;
 }
 
 - (void)dealloc {
-  if (parts) [parts->PDEs release];
+  [PDEs release];
   delete parts;
   [super dealloc];
 }
 @end
 
 @implementation KWOPDEPanel
-+ (std::shared_ptr<kwopde::Panel>)makeWithCallback:(std::shared_ptr<kwopde::HostCallback>)host
-                                            bundle:(kwopde::Bundle *)bundle {
-  (void)host;
-  (void)bundle;
-  return nullptr;  // only the classes below are panels
+using Method1 = void (*)(KWOPDEPanel *self, SEL selector, id argument);
+
+static void setOutlet(KWOPDEPanel *self, SEL setter, id control) {
+  KWOPDEPanelParts &own = *self->parts;
+  if (!own.outlets) own.outlets = [[NSMutableDictionary alloc] init];
+  if (control) [own.outlets setObject:control forKey:outletOf(setter)];
 }
 
-- (id)initWithPanel:(std::shared_ptr<kwopde::Panel>)panel
-           callback:(id)host
-             bundle:(NSBundle *)bundle {
-  if ((self = [super init])) {
-    parts = new KWOPDEPanelParts{panel, [host retain]};
-    [bundle retain];
+static void performAction(KWOPDEPanel *self, SEL action, id) {
+  self->parts->core->performAction(textOf(NSStringFromSelector(action)), nullptr);
+}
+
++ (std::shared_ptr<PanelBase>)makeFor:(KWOPDEPanel *)object
+                             callback:(id)callback
+                               bundle:(NSBundle *)bundle {
+  (void)object, (void)callback, (void)bundle;
+  return nullptr;
+}
+
++ (std::shared_ptr<PanelBase>)prototype {
+  return nullptr;
+}
+
++ (void)initialize {
+  const auto prototype = [self prototype];
+  if (!prototype) return;
+  const auto answer = [&](const std::string &selector, Method1 method) {
+    class_addMethod(self, sel_registerName(selector.c_str()),
+                    reinterpret_cast<IMP>(reinterpret_cast<void (*)()>(method)), "v@:@");
+  };
+  answer(setterOf("pdeView"), &setOutlet);
+  for (const auto &control : prototype->controls()) answer(setterOf(control.outlet), &setOutlet);
+  for (const auto &option : prototype->options())
+    if (!option.action.empty()) answer(std::string(option.action), &performAction);
+}
+
+- (id)init {
+  return [self initWithCallback:nil andBundle:nil];
+}
+
+- (id)initWithCallback:(id)callback andBundle:(NSBundle *)bundle {
+  if (!(self = [super init])) return nil;
+  auto core = [[self class] makeFor:self callback:callback bundle:bundle];
+  if (!core) {
+    [self release];
+    return nil;
   }
+  parts = new KWOPDEPanelParts{core, nil, nil, nil};
   return self;
 }
 
-- (id)initWithCallback:(id)host andBundle:(NSBundle *)bundle {
-  const auto made = [[self class] makeWithCallback:wrap(host) bundle:wrap(bundle).get()];
-  if (made) return [self initWithPanel:made callback:host bundle:bundle];
-  [self release];
-  return nil;
-}
-
 - (void)dealloc {
-  if (parts) [parts->callback release];
-  delete parts;
+  if (parts) {
+    PanelBase &core = [self core];
+    if (const auto *view = dynamic_cast<CocoaPanelView *>(core.pdeView.get()))
+      view->disconnect(self);
+    core.releaseChoices();
+    core.pdePluginCallbackObject.reset();
+    [parts->thePDEName release];
+    core.pdeView.reset();
+    [parts->outlets release];
+    delete parts;
+  }
   [super dealloc];
 }
 
+- (PanelBase &)core {
+  return *parts->core;
+}
+
+- (NSDictionary *)takeOutlets {
+  NSDictionary *taken = [parts->outlets autorelease];
+  parts->outlets = nil;
+  return taken;
+}
+
 - (NSView *)panelView {
-  kwopde::View *view = parts->panel->panelView();
-  return view ? static_cast<NSView *>(view->nativeView()) : nil;
+  return nativeOf([self core].panelView());
 }
 - (NSString *)panelName {
-  return stringFrom(parts->panel->panelName());
+  const std::string *name = [self core].panelName();
+  if (!parts->thePDEName) parts->thePDEName = [stringFrom(name) retain];
+  return parts->thePDEName;
 }
 - (NSString *)panelKind {
-  return stringFrom(parts->panel->panelKind());
+  return constantString([self core].panelKind());
 }
 - (NSArray *)supportedPPDOptionKeys {
-  NSMutableArray *keys = [NSMutableArray array];
-  for (const std::string &key : parts->panel->supportedPPDOptionKeys())
-    [keys addObject:stringFrom(key)];
-  return keys;
+  const std::vector<std::string> &keys = [self core].supportedPPDOptionKeys();
+  if (!parts->supportedOptions) {
+    parts->supportedOptions = [[NSMutableArray alloc] initWithCapacity:keys.capacity()];
+    for (const std::string &key : keys) [parts->supportedOptions addObject:stringFrom(key)];
+    // Hosts may look at the list after the panel is gone.
+    kwopde::keepForever({parts->supportedOptions, [](id) {}});
+  }
+  return parts->supportedOptions;
 }
 - (void)willShow {
-  parts->panel->willShow();
+  [self core].willShow();
 }
 - (BOOL)shouldHide {
-  return parts->panel->shouldHide();
+  return [self core].shouldHide();
 }
 - (BOOL)shouldPrint {
-  return parts->panel->shouldPrint();
+  return [self core].shouldPrint();
 }
 - (BOOL)shouldShowHelp {
-  return parts->panel->shouldShowHelp();
+  return [self core].shouldShowHelp();
 }
 - (void)PPDOptionKeyValueDidChange:(NSString *)key ppdChoice:(NSString *)choice {
-  parts->panel->PPDOptionKeyValueDidChange(Argument(key), Argument(choice));
+  [self core].PPDOptionKeyValueDidChange(Argument(key), Argument(choice));
 }
 - (BOOL)restoreValuesAndReturnError:(NSError **)error {
-  return parts->panel->restoreValuesAndReturnError(reinterpret_cast<kwopde::Error **>(error));
+  return [self core].restoreValuesAndReturnError(reinterpret_cast<kwopde::Error **>(error));
 }
 - (BOOL)saveValuesAndReturnError:(NSError **)error {
-  return parts->panel->saveValuesAndReturnError(reinterpret_cast<kwopde::Error **>(error));
+  return [self core].saveValuesAndReturnError(reinterpret_cast<kwopde::Error **>(error));
 }
 - (NSDictionary *)summaryInfo {
-  NSMutableDictionary *summary = [NSMutableDictionary dictionary];
-  const auto info = parts->panel->summaryInfo();
+  const auto info = [self core].summaryInfo();
+  NSMutableDictionary *summary = nativeOf(info.get());
   for (const auto &[key, value] : info->entries())
     [summary setObject:stringFrom(value) forKey:stringFrom(key)];
   return summary;
 }
 - (void)getNonPPDSettingsFromPrintSettings {
-  parts->panel->getNonPPDSettingsFromPrintSettings();
+  [self core].getNonPPDSettingsFromPrintSettings();
 }
 - (void)writeNonPPDSettingsToPrintSettings {
-  parts->panel->writeNonPPDSettingsToPrintSettings();
+  [self core].writeNonPPDSettingsToPrintSettings();
 }
+
+- (void)initializeUI {
+  [self core].initializeUI();
+}
+- (void)updateUI {
+  [self core].updateUI();
+}
+- (void)updateMarkedSelections {
+  [self core].updateMarkedSelections();
+}
+- (void)querySettingsFromUI {
+  [self core].querySettingsFromUI();
+}
+- (void)querySettingsFromPPD {
+  [self core].querySettingsFromPPD();
+}
+- (void)saveSettingsToPPD {
+  [self core].saveSettingsToPPD();
+}
+- (void)queryIntFromPPD:(int *)value forKey:(const char *)key {
+  [self core].queryIntFromPPD(value, key);
+}
+- (void)queryDoubleFromPPD:(double *)value forKey:(const char *)key {
+  [self core].queryDoubleFromPPD(value, key);
+}
+- (void)queryNSStringFromPPD:(NSString **)value forKey:(const char *)key {
+  StringField field(value);
+  [self core].queryNSStringFromPPD(&field.text, key);
+}
+- (void)saveIntToPPD:(int)value FieldKey:(NSString *)key {
+  [self core].saveIntToPPD(value, textOf(key));
+}
+- (void)saveNSStringToPPD:(NSString *)value FieldKey:(NSString *)key {
+  [self core].saveNSStringToPPD(textOf(value), textOf(key));
+}
+- (int)indexOfMarkedOption:(ppd_option_t *)option forKey:(const char *)key {
+  return [self core].indexOfMarkedOption(option, key);
+}
+- (PDEChoice *)selectionForPopUp:(NSPopUpButton *)popUp withKey:(NSString *)key {
+  CocoaPopUpButton button(popUp);
+  return nativeOf([self core].selectionForPopUp(popUp ? &button : nullptr, textOf(key)));
+}
+- (void)setViewTitleByTag:(int)tag fromOptions:(ppd_option_t *)option {
+  [self core].setViewTitleByTag(tag, option);
+}
+
 - (const void *)inspector {
-  return kwopde::inspectorOf(*parts->panel);
+  return kwopde::inspectorOf([self core]);
 }
 @end
 
-#define KWOPDE_PANEL_CLASS(NAME)                                                        \
-  @implementation NAME                                                                  \
-  +(std::shared_ptr<kwopde::Panel>)makeWithCallback                                     \
-      : (std::shared_ptr<kwopde::HostCallback>)host bundle : (kwopde::Bundle *)bundle { \
-    return kwopde::PanelBase::initWithCallback<kwopde::NAME>(host, bundle);             \
-  }                                                                                     \
-  @end
+#define KWOPDE_PANEL_CLASS(NAME)                                                              \
+  +(std::shared_ptr<PanelBase>)makeFor : (KWOPDEPanel *)object callback : (id)callback bundle \
+      : (NSBundle *)bundle {                                                                  \
+    return PanelBase::initWithCallback<CocoaPanel<kwopde::NAME>>(                             \
+        retaining<CocoaCallback>(callback), retaining<CocoaBundle>(bundle).get(), object);    \
+  }                                                                                           \
+  +(std::shared_ptr<PanelBase>)prototype {                                                    \
+    return std::make_shared<kwopde::NAME>();                                                  \
+  }
 
+@implementation MediaPDE
 KWOPDE_PANEL_CLASS(MediaPDE)
+@end
+
+@implementation Media7032PDE
 KWOPDE_PANEL_CLASS(Media7032PDE)
+@end
+
+@implementation ColorPDE
 KWOPDE_PANEL_CLASS(ColorPDE)
+
+- (void)saveDoubleToPPD:(double)value FieldKey:(NSString *)key {
+  static_cast<kwopde::ColorPDE &>([self core]).saveDoubleToPPD(value, textOf(key));
+}
+- (void)queryTextFieldFromUI:(NSString **)value FieldUI:(NSTextField *)field {
+  StringField text(value);
+  CocoaTextField control(field);
+  static_cast<kwopde::ColorPDE &>([self core])
+      .queryTextFieldFromUI(&text.text, field ? &control : nullptr);
+}
+@end
+
+@implementation SharpenPDE
 KWOPDE_PANEL_CLASS(SharpenPDE)
+@end

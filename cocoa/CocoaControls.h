@@ -1,16 +1,21 @@
-// The toolkit interfaces of the core on AppKit.
-//
-// A control wraps a view that it does not own, and that lives as long as the panel's view.
+// The toolkit interfaces of the core on AppKit. A control retains the view that it stands for: a
+// host may take a view out of its panel, and keep it or let it go.
 #pragma once
 
 #import <AppKit/AppKit.h>
 
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
 
-#include "cocoa/Strings.h"
+#include "cocoa/NativeObject.h"
 #include "platform/Controls.h"
+
+/// What a menu item's represented object answers when it stands for an object of the core.
+@protocol KWOPDECoreObject
+- (std::shared_ptr<kwopde::Object>)coreObject;
+@end
 
 namespace kwopde::cocoa {
 
@@ -22,12 +27,11 @@ void forEach(NSEnumerator *objects, Visit &&visit) {
 
 /// What every control is: `Base` on a view of class `NativeView`.
 template <class Base, class NativeView>
-class CocoaControl : public Base {
+class CocoaControl : public NativeObject<Base> {
 public:
-  explicit CocoaControl(NativeView *view)
-      : view_(view), className_(textOf(NSStringFromClass([view class]))) {}
+  explicit CocoaControl(NativeView *view) : NativeObject<Base>([view retain]), view_(view) {}
+  ~CocoaControl() override { [view_ release]; }
 
-  std::string_view className() const override { return className_; }
   bool isEnabled() const override {
     return [view_ respondsToSelector:@selector(isEnabled)] && [(NSControl *)view_ isEnabled];
   }
@@ -38,12 +42,10 @@ public:
   void *nativeView() const override { return view_; }
 
 protected:
-  NativeView *view_;
-
-private:
-  std::string className_;
+  NativeView *const view_;
 };
 
+/// The items are the menu's own, whoever has added them.
 class CocoaPopUpButton final : public CocoaControl<PopUpButton, NSPopUpButton>, public Menu {
 public:
   using CocoaControl::CocoaControl;
@@ -57,7 +59,7 @@ public:
   const MenuItem *itemAtIndex(int index) const override;
 
 private:
-  mutable std::vector<MenuItem> items_;
+  mutable std::map<int, MenuItem> items_;  // as they were last asked for
 };
 
 /// Moves freely between its ends; what it stands at is cut, never rounded, by who reads it.
@@ -79,20 +81,20 @@ public:
   void setStringValue(std::string_view text) override;
 };
 
-/// A panel's view, which it retains, and its controls. `owner` is what the interface file was
-/// loaded for, and retained too: controls do not retain whom they send their actions.
+/// A panel's view, and its controls.
 class CocoaPanelView final : public CocoaControl<View, NSView> {
 public:
-  CocoaPanelView(NSView *view, NSObject *owner);
-  ~CocoaPanelView() override;
+  using CocoaControl::CocoaControl;
 
   TextField *viewWithTag(int tag) override;
 
   /// The control for `view`, made on the first call; null when it is of no kind that a panel uses.
   std::shared_ptr<View> control(NSView *view);
 
+  /// Stops every control that sends its action to `target`: they may outlive it.
+  void disconnect(id target) const;
+
 private:
-  NSObject *owner_;
   std::vector<std::shared_ptr<View>> controls_;
 };
 

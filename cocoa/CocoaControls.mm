@@ -5,6 +5,20 @@
 
 namespace kwopde::cocoa {
 
+namespace {
+
+/// Stops the controls at `view` and below it.
+void disconnectBelow(NSView *view, id target) {
+  if ([view isKindOfClass:[NSControl class]] && [(NSControl *)view target] == target) {
+    [(NSControl *)view setTarget:nil];
+    [(NSControl *)view setAction:NULL];
+  }
+  forEach<NSView>([[view subviews] objectEnumerator],
+                  [&](NSView *below) { disconnectBelow(below, target); });
+}
+
+}  // namespace
+
 void CocoaPopUpButton::removeAllItems() {
   items_.clear();
   [view_ removeAllItems];
@@ -24,19 +38,20 @@ void CocoaPopUpButton::addItem(MenuItem item) {
   NSMenuItem *added = [[[NSMenuItem alloc] initWithTitle:title ? title : @""
                                                   action:NULL
                                            keyEquivalent:@""] autorelease];
+  [added setRepresentedObject:nativeOf(item.representedObject.get())];
   [[view_ menu] addItem:added];
-  items_.push_back(std::move(item));
   if ([view_ indexOfSelectedItem] < 0) [view_ selectItemAtIndex:0];
 }
 
 const MenuItem *CocoaPopUpButton::itemAtIndex(int index) const {
-  const auto count = static_cast<std::size_t>([view_ numberOfItems]);
-  const auto i = static_cast<std::size_t>(index);
-  if (index < 0 || i >= count) return nullptr;
-  // Items that somebody else has added have a title only.
-  for (auto next = items_.size(); next < count; ++next)
-    items_.push_back({textOf([view_ itemTitleAtIndex:static_cast<NSInteger>(next)]), nullptr});
-  return &items_[i];
+  if (index < 0 || index >= [view_ numberOfItems]) return nullptr;
+  NSMenuItem *item = [view_ itemAtIndex:index];
+  id represented = [item representedObject];
+  MenuItem &found = items_[index];
+  found.title = textOf([item title]);
+  found.representedObject =
+      [represented respondsToSelector:@selector(coreObject)] ? [represented coreObject] : nullptr;
+  return &found;
 }
 
 void CocoaSlider::setDoubleValue(double value) {
@@ -46,16 +61,6 @@ void CocoaSlider::setDoubleValue(double value) {
 void CocoaTextField::setStringValue(std::string_view text) {
   NSString *string = stringFrom(text);
   [view_ setStringValue:string ? string : @""];
-}
-
-CocoaPanelView::CocoaPanelView(NSView *view, NSObject *owner)
-    : CocoaControl([view retain]), owner_([owner retain]) {}
-
-CocoaPanelView::~CocoaPanelView() {
-  controls_.clear();
-  [view_ removeFromSuperview];
-  [view_ release];
-  [owner_ release];
 }
 
 TextField *CocoaPanelView::viewWithTag(int tag) {
@@ -70,6 +75,16 @@ std::shared_ptr<View> CocoaPanelView::control(NSView *view) {
   auto control = makeControl(view);
   if (control) controls_.push_back(control);
   return control;
+}
+
+void CocoaPanelView::disconnect(id target) const {
+  // What is retained on the way is let go here, so that nothing outlives the view for it.
+  NSAutoreleasePool *pool = [[NSAutoreleasePool alloc] init];
+  disconnectBelow(view_, target);
+  // A host may have moved some of them elsewhere.
+  for (const auto &control : controls_)
+    disconnectBelow(static_cast<NSView *>(control->nativeView()), target);
+  [pool release];
 }
 
 std::shared_ptr<View> makeControl(NSView *view) {

@@ -184,6 +184,10 @@ public:
   /// Labels the subview of the panel's view that has the tag with the title of `fromOptions`.
   void setViewTitleByTag(int tag, const ppd_option_t *fromOptions);
 
+  /// Releases the choice lists: the first step of a panel's end, then the callback, the name and the
+  /// view. A panel class calls it in its destructor, while it has them.
+  void releaseChoices();
+
   // In the order in which the panels declare them; public for the tables and for inspection.
   std::shared_ptr<HostCallback> pdePluginCallbackObject;
   std::optional<std::string> thePDEName;
@@ -204,9 +208,6 @@ protected:
   virtual std::shared_ptr<Dictionary> makeSummary(std::size_t capacity) const {
     return std::make_shared<Dictionary>(capacity);
   }
-
-  /// Releases the choice lists; a panel class calls it in its destructor, while it has them.
-  void releaseChoices();
 
   // What the actions do. The argument is the member that the option's row refers to.
 

@@ -51,7 +51,7 @@ public:
 
   View *panelView() override {
     NSView *view = [panel_ panelView];
-    if (!view_ && view) view_ = std::make_unique<CocoaPanelView>(view, nil);
+    if (!view_ && view) view_ = std::make_unique<CocoaPanelView>(view);
     return view ? view_.get() : nullptr;
   }
   const std::string *panelName() override {
@@ -118,15 +118,13 @@ private:
   mutable std::map<std::string_view, std::shared_ptr<View>> controls_;
 };
 
-class NativeBundle final : public Bundle {
+class NativeBundle final : public NativeObject<Bundle> {
 public:
-  explicit NativeBundle(NSBundle *bundle) : native(bundle) {}
-  std::string_view className() const override { return "NSBundle"; }
+  using NativeObject::NativeObject;
   std::optional<std::string> localizedStringForKey(const std::string &, const std::string *,
                                                    const std::string *) const override {
     return {};  // the bundle's own classes ask the bundle itself
   }
-  NSBundle *native;
 };
 
 class BundlePlugIn final : public PlugIn {
@@ -139,10 +137,7 @@ public:
   }
 
   std::string_view className() const override { return "KWOPDEPlugIn"; }
-  bool initWithBundle(Bundle *bundle) override {
-    auto *native = dynamic_cast<NativeBundle *>(bundle);
-    return [plugIn_ initWithBundle:native ? native->native : nil];
-  }
+  bool initWithBundle(Bundle *bundle) override { return [plugIn_ initWithBundle:nativeOf(bundle)]; }
   const PanelList *PDEPanelsForType(const std::string *type,
                                     const std::shared_ptr<HostCallback> &withHostInfo) override {
     if (!host_ && withHostInfo) {
@@ -150,12 +145,14 @@ public:
       host_->session = withHostInfo.get();
       session_ = withHostInfo;
     }
+    NSAutoreleasePool *pool = [[NSAutoreleasePool alloc] init];  // the panels come autoreleased
     NSArray *panels = [plugIn_ PDEPanelsForType:stringFrom(type)
                                    withHostInfo:withHostInfo ? host_ : nil];
     panels_.clear();
     forEach<KWOPDEPanel>([panels objectEnumerator], [&](KWOPDEPanel *panel) {
       panels_.push_back(std::make_shared<BundlePanel>(panel));
     });
+    [pool release];
     return panels ? &panels_ : nullptr;
   }
 

@@ -12,6 +12,7 @@ using SystemLogTest = CocoaTest;
 TEST_F(SystemLogTest, KeepsALineWithBytesThatAreNoText) {
   std::strcpy(ppdFindAttr(ppd.get(), "cupsModelNumber", nullptr)->text, "gr\xfcn, gr\xc3\xbcn");
   KWOPDEPlugIn *plugIn = newPlugIn();
+  [(id)[bundle principalClass] setTraceSink:nullptr];
   testing::internal::CaptureStderr();
   [plugIn PDEPanelsForType:type withHostInfo:host];
   EXPECT_THAT(
