@@ -23,9 +23,10 @@ std::string optionsNamed(const std::vector<std::string> &keys) {
   return lines;
 }
 
-struct PanelClass {
+struct Expected {
   std::string name;
   std::shared_ptr<PanelBase> (*make)(const std::shared_ptr<HostCallback> &, Bundle *);
+  PDEChoice *&(*selection)(PanelBase &panel);  // of its first option
   std::vector<std::string> keys;
   std::vector<std::string> keyOptions;  // refused when all of these are missing
   std::vector<std::string> saved;       // what a fresh panel saves
@@ -46,90 +47,106 @@ std::shared_ptr<PanelBase> make(const std::shared_ptr<HostCallback> &host, Bundl
   return PanelBase::initWithCallback<P>(host, bundle);
 }
 
-void PrintTo(const PanelClass &panelClass, std::ostream *out) {
-  *out << panelClass.name;
+template <class P>
+P panelOf(PDEChoice *P::*);  // for its type only
+
+template <auto member>
+PDEChoice *&selectionOf(PanelBase &panel) {
+  return static_cast<decltype(panelOf(member)) &>(panel).*member;
 }
 
-const PanelClass kClasses[] = {
-    {"MediaPDE",
-     make<MediaPDE>,
-     {"printQuality", "printFinish", "rotateImage", "mirrorImage", "pageScale"},
-     {"printQuality", "printFinish"},
-     {"pageScale=100"},
-     "BEGIN panelView:",
-     "MediaPanelName",
-     "org.kwopde.mediakind",
-     {"BEGIN shouldHide:", "LOG ...saving settings.",
-      "BEGIN querySettingsFromUI:", "END querySettingsFromUI: [0]", "BEGIN saveSettingsToPPD:"},
-     "BEGIN updateUI:[0]",
-     "LOG ppdFindMarkedChoice:nil",
-     {"LOG Rotate image option not supported!", "LOG Mirror image option not supported!",
-      "LOG Page scale option not supported!"},
-     {"LOG disabling rotate image", "LOG disabling mirror image", "LOG disabling page scale"},
-     {"LOG printQualitySelection=nil", "LOG printFinishSelection=nil",
-      "LOG rotateImageSelection=nil", "LOG mirrorImageSelection=nil"},
-     true},
-    {"Media7032PDE",
-     make<Media7032PDE>,
-     {"printQuality", "printFinish", "matteLevel", "dustRemoval", "rotateImage", "mirrorImage",
-      "pageScale"},
-     {"printQuality", "printFinish"},
-     {"pageScale=100"},
-     "BEGIN panelView:",
-     "MediaPanelName",
-     "org.kwopde.media7032kind",
-     {"BEGIN shouldHide:", "BEGIN querySettingsFromUI:", "END querySettingsFromUI:",
-      "BEGIN saveSettingsToPPD:"},
-     "BEGIN updateUI:",
-     "LOG currentChoice:nil",
-     {"LOG Matte level option not supported!", "LOG Dust removal option not supported!",
-      "LOG Rotate image option not supported!", "LOG Mirror image option not supported!",
-      "LOG Page scale option not supported!"},
-     {"LOG disabling matte level", "LOG disabling dust removal", "LOG disabling rotate image",
-      "LOG disabling mirror image"},
-     {},
-     true},
-    {"ColorPDE",
-     make<ColorPDE>,
-     {"colorMode", "imageBrightness", "imageContrast", "imageSaturation", "imageGamma", "colorRed",
-      "colorGreen", "colorBlue"},
-     {"colorMode"},
-     {"imageBrightness=0", "imageContrast=0", "imageSaturation=0", "imageGamma=0.000000",
-      "colorRed=0", "colorGreen=0", "colorBlue=0"},
-     "BEGIN panelView:(ColorPDE)",
-     "ColorPanelName",
-     "org.kwopde.colorkind",
-     {"BEGIN shouldHide:", "BEGIN querySettingsFromUI:", "END querySettingsFromUI:",
-      "BEGIN saveSettingsToPPD:"},
-     "BEGIN updateUI:",
-     "LOG ppdFindMarkedChoice:nil",
-     {"LOG Brightness option not supported!", "LOG Contrast option not supported!",
-      "LOG Saturation option not supported!", "LOG Gamma option not supported!",
-      "LOG Red option not supported!", "LOG Green option not supported!",
-      "LOG Blue option not supported!"},
-     {},
-     {},
-     false},
-    {"SharpenPDE",
-     make<SharpenPDE>,
-     {"sharpnessEnabled", "sharpnessAmount", "sharpnessRadius", "sharpnessThreshold"},
-     {"sharpnessEnabled"},
-     {"sharpnessAmount=0", "sharpnessRadius=0", "sharpnessThreshold=0"},
-     "BEGIN panelView:(SharpenPDE)",
-     "SharpenPanelName",
-     "org.kwopde.sharpenkind",
-     {"BEGIN shouldHide:", "BEGIN querySettingsFromUI:", "END querySettingsFromUI:",
-      "BEGIN saveSettingsToPPD:"},
-     "BEGIN updateUI:",
-     "LOG currentChoice:nil",
-     {"LOG Amount option not supported!", "LOG Radius option not supported!",
-      "LOG Threshold option not supported!"},
-     {},
-     {},
-     false},
+void PrintTo(const Expected &expected, std::ostream *out) {
+  *out << expected.name;
+}
+
+const Expected kClasses[] = {
+    {.name = "MediaPDE",
+     .make = make<MediaPDE>,
+     .selection = &selectionOf<&MediaPDE::printQualitySelection>,
+     .keys = {"printQuality", "printFinish", "rotateImage", "mirrorImage", "pageScale"},
+     .keyOptions = {"printQuality", "printFinish"},
+     .saved = {"pageScale=100"},
+     .panelViewEntry = "BEGIN panelView:",
+     .nameKey = "MediaPanelName",
+     .kind = "org.kwopde.mediakind",
+     .hiding = {"BEGIN shouldHide:", "LOG ...saving settings.", "BEGIN querySettingsFromUI:",
+                "END querySettingsFromUI: [0]", "BEGIN saveSettingsToPPD:"},
+     .updateUIEntry = "BEGIN updateUI:[0]",
+     .noMarkedChoice = "LOG ppdFindMarkedChoice:nil",
+     .notSupported = {"LOG Rotate image option not supported!",
+                      "LOG Mirror image option not supported!",
+                      "LOG Page scale option not supported!"},
+     .disabling = {"LOG disabling rotate image", "LOG disabling mirror image",
+                   "LOG disabling page scale"},
+     .noSelection = {"LOG printQualitySelection=nil", "LOG printFinishSelection=nil",
+                     "LOG rotateImageSelection=nil", "LOG mirrorImageSelection=nil"},
+     .tracesRequest = true},
+    {.name = "Media7032PDE",
+     .make = make<Media7032PDE>,
+     .selection = &selectionOf<&Media7032PDE::printQualitySelection>,
+     .keys = {"printQuality", "printFinish", "matteLevel", "dustRemoval", "rotateImage",
+              "mirrorImage", "pageScale"},
+     .keyOptions = {"printQuality", "printFinish"},
+     .saved = {"pageScale=100"},
+     .panelViewEntry = "BEGIN panelView:",
+     .nameKey = "MediaPanelName",
+     .kind = "org.kwopde.media7032kind",
+     .hiding = {"BEGIN shouldHide:", "BEGIN querySettingsFromUI:", "END querySettingsFromUI:",
+                "BEGIN saveSettingsToPPD:"},
+     .updateUIEntry = "BEGIN updateUI:",
+     .noMarkedChoice = "LOG currentChoice:nil",
+     .notSupported = {"LOG Matte level option not supported!",
+                      "LOG Dust removal option not supported!",
+                      "LOG Rotate image option not supported!",
+                      "LOG Mirror image option not supported!",
+                      "LOG Page scale option not supported!"},
+     .disabling = {"LOG disabling matte level", "LOG disabling dust removal",
+                   "LOG disabling rotate image", "LOG disabling mirror image"},
+     .noSelection = {},
+     .tracesRequest = true},
+    {.name = "ColorPDE",
+     .make = make<ColorPDE>,
+     .selection = &selectionOf<&ColorPDE::colorModeSelection>,
+     .keys = {"colorMode", "imageBrightness", "imageContrast", "imageSaturation", "imageGamma",
+              "colorRed", "colorGreen", "colorBlue"},
+     .keyOptions = {"colorMode"},
+     .saved = {"imageBrightness=0", "imageContrast=0", "imageSaturation=0", "imageGamma=0.000000",
+               "colorRed=0", "colorGreen=0", "colorBlue=0"},
+     .panelViewEntry = "BEGIN panelView:(ColorPDE)",
+     .nameKey = "ColorPanelName",
+     .kind = "org.kwopde.colorkind",
+     .hiding = {"BEGIN shouldHide:", "BEGIN querySettingsFromUI:", "END querySettingsFromUI:",
+                "BEGIN saveSettingsToPPD:"},
+     .updateUIEntry = "BEGIN updateUI:",
+     .noMarkedChoice = "LOG ppdFindMarkedChoice:nil",
+     .notSupported = {"LOG Brightness option not supported!", "LOG Contrast option not supported!",
+                      "LOG Saturation option not supported!", "LOG Gamma option not supported!",
+                      "LOG Red option not supported!", "LOG Green option not supported!",
+                      "LOG Blue option not supported!"},
+     .disabling = {},
+     .noSelection = {},
+     .tracesRequest = false},
+    {.name = "SharpenPDE",
+     .make = make<SharpenPDE>,
+     .selection = &selectionOf<&SharpenPDE::enableFilterSelection>,
+     .keys = {"sharpnessEnabled", "sharpnessAmount", "sharpnessRadius", "sharpnessThreshold"},
+     .keyOptions = {"sharpnessEnabled"},
+     .saved = {"sharpnessAmount=0", "sharpnessRadius=0", "sharpnessThreshold=0"},
+     .panelViewEntry = "BEGIN panelView:(SharpenPDE)",
+     .nameKey = "SharpenPanelName",
+     .kind = "org.kwopde.sharpenkind",
+     .hiding = {"BEGIN shouldHide:", "BEGIN querySettingsFromUI:", "END querySettingsFromUI:",
+                "BEGIN saveSettingsToPPD:"},
+     .updateUIEntry = "BEGIN updateUI:",
+     .noMarkedChoice = "LOG currentChoice:nil",
+     .notSupported = {"LOG Amount option not supported!", "LOG Radius option not supported!",
+                      "LOG Threshold option not supported!"},
+     .disabling = {},
+     .noSelection = {},
+     .tracesRequest = false},
 };
 
-class PanelContract : public testing::TestWithParam<PanelClass> {
+class PanelContract : public testing::TestWithParam<Expected> {
 protected:
   void make(const std::string &options, bool handlesConstraints = true) {
     ppd_.emplace(options);
@@ -348,14 +365,7 @@ TEST_P(PanelContract, SelectionFromElsewhereIsReportedNotFound) {
   panel_->willShow();
   trace_.take();
   const PDEChoice equalButForeign(ppdFindMarkedChoice(ppd_->get(), GetParam().keys[0].c_str()));
-  if (auto *media = dynamic_cast<MediaPDE *>(panel_.get()))
-    media->printQualitySelection = const_cast<PDEChoice *>(&equalButForeign);
-  else if (auto *extended = dynamic_cast<Media7032PDE *>(panel_.get()))
-    extended->dustRemovalSelection = const_cast<PDEChoice *>(&equalButForeign);
-  else if (auto *color = dynamic_cast<ColorPDE *>(panel_.get()))
-    color->colorModeSelection = const_cast<PDEChoice *>(&equalButForeign);
-  else if (auto *sharpen = dynamic_cast<SharpenPDE *>(panel_.get()))
-    sharpen->enableFilterSelection = const_cast<PDEChoice *>(&equalButForeign);
+  GetParam().selection(*panel_) = const_cast<PDEChoice *>(&equalButForeign);
   panel_->updateUI();
   EXPECT_THAT(trace_.takeMessages(), Contains(testing::EndsWith("selection not found!")).Times(1));
 }
