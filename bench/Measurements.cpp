@@ -1,5 +1,6 @@
-// Measures the extension's share of a print dialog. Every figure is a ratio of two things that are
-// measured in turns in this very run; scripts/bench prints them as a table.
+// The measurements: each a benchmark of its own, whose name the rows of Table.cpp use.
+#include "bench/Measurements.h"
+
 #include <benchmark/benchmark.h>
 #include <fmt/format.h>
 #include <malloc.h>
@@ -313,14 +314,8 @@ long bytesInUse() {
   return static_cast<long>(info.uordblks + info.hblkhd);
 }
 
-/// Bytes, which are the same at every run.
-struct Memory {
-  long perChoice;     // with both titles
-  long perDialog;     // while it is open
-  long leftByDialog;  // on average of 1,000
-};
+}  // namespace
 
-/// To be measured first: later, the list of what is kept has room to spare.
 Memory measureMemory() {
   Memory memory{};
   NullSink sink;
@@ -352,78 +347,4 @@ Memory measureMemory() {
   return memory;
 }
 
-/// Keeps the median time of every benchmark.
-class Medians final : public benchmark::ConsoleReporter {
-public:
-  Medians() : ConsoleReporter(OO_None) {}
-  void ReportRuns(const std::vector<Run> &runs) override {
-    for (const Run &run : runs) {
-      if (run.error_occurred) continue;
-      const std::string name = run.run_name.str();
-      if (run.aggregate_name != "median") continue;
-      times_[name] = run.GetAdjustedRealTime();
-      for (const auto &[counter, value] : run.counters)
-        counters_[name + "." + counter] = static_cast<double>(value);
-    }
-    ConsoleReporter::ReportRuns(runs);
-  }
-  double time(const std::string &name) const { return times_.at(name); }
-  double counter(const std::string &name) const { return counters_.at(name); }
-
-private:
-  std::map<std::string, double> times_;
-  std::map<std::string, double> counters_;
-};
-
-void printTable(const Medians &medians, const Memory &memory) {
-  const struct {
-    const char *what;
-    const char *one;
-    const char *other;
-    double scale;   // of the ratio, for figures per choice
-    double target;  // 0: none
-  } rows[] = {
-      {"a whole session / opening its PPD", "session", "openingThePpd", 1, 0.20},
-      {"a whole session / formatting its lines", "session", "formattingItsLines", 1, 1.5},
-      {"a pick among 10,000 choices / among 10", "pick/10000", "pick/10", 1, 1.2},
-      {"create and fill per choice, 1,000 / 10", "createAndFill/1000", "createAndFill/10", 0.01,
-       1.3},
-      {"create and fill per choice, 100,000 / 10", "createAndFill/100000", "createAndFill/10",
-       0.0001, 1.3},
-      {"the same for bare objects and texts", "fillFloor/100000", "fillFloor/10", 0.0001, 0},
-      {"a trace line / formatting its text", "tracingALine", "formattingTheLine", 1, 2.0},
-      {"Qt's dialog with panels / without", "dialogWith", "dialogWithout", 1, 1.25},
-      {"all panels shown / Qt's dialog without", "dialogWithAllPanelsShown", "dialogWithout", 1, 0},
-  };
-  fmt::print("\n| figure | measured | target | met |\n|---|---|---|---|\n");
-  for (const auto &row : rows) {
-    const double ratio = medians.time(row.one) / medians.time(row.other) * row.scale;
-    if (row.target > 0)
-      fmt::print("| {} | {:.2f} | {:.2f} | {} |\n", row.what, ratio, row.target,
-                 ratio <= row.target ? "yes" : "no");
-    else
-      fmt::print("| {} | {:.2f} | | |\n", row.what, ratio);
-  }
-  fmt::print("| allocations of a trace line | {:.0f} | 0 | {} |\n",
-             medians.counter("tracingALine.allocations"),
-             medians.counter("tracingALine.allocations") == 0 ? "yes" : "no");
-  fmt::print("| lines that a session traces | {:.0f} | | |\n",
-             medians.counter("formattingItsLines.lines"));
-  fmt::print(
-      "| bytes per choice | {} | | |\n| bytes per open dialog | {} | | |\n"
-      "| bytes left by a closed dialog | {} | | |\n",
-      memory.perChoice, memory.perDialog, memory.leftByDialog);
-}
-
-}  // namespace
-
 }  // namespace kwopde::bench
-
-int main(int argc, char **argv) {
-  QApplication application(argc, argv);
-  benchmark::Initialize(&argc, argv);
-  const auto memory = kwopde::bench::measureMemory();
-  kwopde::bench::Medians medians;
-  benchmark::RunSpecifiedBenchmarks(&medians);
-  kwopde::bench::printTable(medians, memory);
-}
