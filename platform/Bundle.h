@@ -1,4 +1,4 @@
-// The bundle that the plug-in comes in: its texts and its interface files.
+// The bundle that the module comes in: its texts and its interface files.
 #pragma once
 
 #include <memory>
@@ -55,7 +55,7 @@ public:
                                                            const std::string *value,
                                                            const std::string *table) const = 0;
 
-  /// Loads an interface file of the plug-in, as `InterfaceLoader` says; false without a loader. It
+  /// Loads an interface file of the module, as `InterfaceLoader` says; false without a loader. It
   /// belongs to the class, not to one bundle: a panel without a bundle has its controls too.
   static bool loadNibNamed(std::string_view name, InterfaceOwner &owner);
 

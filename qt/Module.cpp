@@ -1,4 +1,4 @@
-// The loadable module: the core and this adapter, as a Qt plug-in.
+// The loadable module: the core and this adapter, as QPluginLoader takes it.
 #include <QLoggingCategory>
 #include <QObject>
 

@@ -1,4 +1,4 @@
-// The plug-in's texts, from Qt translations.
+// The module's texts, from Qt translations.
 #pragma once
 
 #include <QTranslator>
