@@ -24,6 +24,8 @@ struct Conversion {
   int width = kNone;
   int precision = kNone;
   char conversion = 0;
+
+  bool isPlain() const { return flags.empty() && width == kNone && precision == kNone; }
 };
 
 /// Reads a width or precision at the start of `rest` and takes it off.
@@ -125,6 +127,8 @@ private:
       if (std::strchr("diouxXc", kind)) {
         if constexpr (std::is_same_v<T, double>)
           appendPrintf(conversion, truncatedInteger(value));
+        else if (conversion.isPlain() && (kind == 'd' || kind == 'i'))
+          appendPlain(value);  // as most numbers are
         else
           appendPrintf(conversion, value);
         return;
