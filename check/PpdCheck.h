@@ -26,7 +26,7 @@ struct PpdReport {
   std::vector<std::string> panels;  // classes of the panels that appear, in order
   std::vector<Finding> findings;
 
-  /// Whether there is more to find than notes.
+  /// Returns whether there is more to find than notes.
   bool isClean() const;
 };
 

@@ -11,8 +11,8 @@
 
 namespace kwopde {
 
-/// The place of `choice` among the choices of `option`, from 1; 0 when the record is none of them,
-/// or either is null. Known from the record's address, whatever the number of choices.
+/// Returns the place of `choice` among the choices of `option`, from 1; 0 when the record is none
+/// of them, or either is null. Known from the record's address, whatever the number of choices.
 int positionInOption(const ppd_choice_t *choice, const ppd_option_t *option);
 
 class PDEChoice : public Object {
@@ -20,25 +20,25 @@ public:
   /// Prepares the class; runs by itself before the first choice is made, and only once.
   static void initialize();
 
-  /// A wrapper of `choice`, which belongs to the open PPD and must outlive it. Nothing is refused:
-  /// null gives a choice without titles.
+  /// Returns a wrapper of `choice`, which belongs to the open PPD and must outlive it. Nothing is
+  /// refused: null gives a choice without titles.
   static std::shared_ptr<PDEChoice> choiceWithChoice(ppd_choice_t *choice);
 
   explicit PDEChoice(ppd_choice_t *choice);
 
-  /// The text shown to people, UTF-8; made once and owned by the wrapper. Null when the PPD's bytes
-  /// are not valid: that is traced, and the next call tries again.
+  /// Returns the text shown to people, UTF-8; made once and owned by the wrapper. Null when the
+  /// PPD's bytes are not valid: that is traced, and the next call tries again.
   const std::string *userTitle() const;
 
-  /// The keyword that is marked and compared, ASCII; otherwise like `userTitle`.
+  /// Returns the keyword that is marked and compared, ASCII; otherwise like `userTitle`.
   const std::string *ppdTitle() const;
 
   ppd_choice_t *choice() const { return choice_; }
 
-  /// Whether this is the option's default.
+  /// Returns whether this is the option's default.
   bool isDefaultChoice() const;
 
-  /// The place among the choices of its own option, as `positionInOption` tells it.
+  /// Returns the place among the choices of its own option, as `positionInOption` tells it.
   int position() const;
 
   std::string_view className() const override { return "PDEChoice"; }

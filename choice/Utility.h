@@ -19,8 +19,8 @@ using ChoiceList = std::vector<std::shared_ptr<PDEChoice>>;
 /// Makes the wrapper of one choice.
 using ChoiceMaker = std::shared_ptr<PDEChoice> (*)(ppd_choice_t *choice);
 
-/// A new list with a wrapper, made by `make`, for every choice of `option`; null for a null option,
-/// and empty for one without choices.
+/// Returns a new list with a wrapper, made by `make`, for every choice of `option`; null for a null
+/// option, and empty for one without choices.
 std::unique_ptr<ChoiceList> ArrayFromPPDOption(const ppd_option_t *option,
                                                ChoiceMaker make = &PDEChoice::choiceWithChoice);
 
@@ -28,15 +28,17 @@ std::unique_ptr<ChoiceList> ArrayFromPPDOption(const ppd_option_t *option,
 /// representing it. Selects nothing; a null list only empties the pop-up.
 void InitPopUpFromArray(PopUpButton &popUp, const ChoiceList *list);
 
-/// The first choice of `list` with the keyword `keyword` (exact, letter case included), or with a
-/// null keyword the first that is its option's default; owned by the list. Null when there is none.
+/// Returns the first choice of `list` with the keyword `keyword` (exact, letter case included), or
+/// with a null keyword the first that is its option's default; owned by the list. Null when there
+/// is none.
 PDEChoice *FindChoiceForString(const std::string *keyword, const ChoiceList *list);
 
-/// The text that `option` shows to people; none when it is not valid UTF-8, or `option` is null.
+/// Returns the text that `option` shows to people; none when it is not valid UTF-8, or `option` is
+/// null.
 std::optional<std::string> CreateOptionTitle(const ppd_option_t *option);
 
-/// The index of this very object in `list`, from 0; none when it is not an element. It is looked up
-/// where the choice's record stands, not searched for.
+/// Returns the index of this very object in `list`, from 0; none when it is not an element. It is
+/// looked up where the choice's record stands, not searched for.
 std::optional<int> IndexOfChoiceIdenticalTo(const PDEChoice *choice, const ChoiceList *list);
 
 }  // namespace kwopde

@@ -128,9 +128,9 @@ protected:
   std::shared_ptr<kwopde::Panel> makePanel(const kwopde::PanelClass &panelClass,
                                            const std::shared_ptr<kwopde::HostCallback> &host,
                                            kwopde::Bundle *itsBundle) override {
-    KWOPDEPanel *panel =
-        [[NSClassFromString(stringFrom(panelClass.name)) alloc] initWithCallback:nativeOf(host.get())
-                                                                 andBundle:nativeOf(itsBundle)];
+    KWOPDEPanel *panel = [[NSClassFromString(stringFrom(panelClass.name)) alloc]
+        initWithCallback:nativeOf(host.get())
+               andBundle:nativeOf(itsBundle)];
     if (![panel autorelease]) return nullptr;
     // Borrowed: the plug-in's array owns the panels.
     return {std::shared_ptr<void>(), &[panel core]};

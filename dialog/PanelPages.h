@@ -51,9 +51,9 @@ public:
   /// Destroys the pages that still exist, and drops the extension.
   ~PanelPages() override;
 
-  /// The pages in order, the summary last; none when the PPD has no option of any panel. A page's
-  /// tab is titled with its windowTitle; its objectName is the same in every language. They belong
-  /// to the dialog that takes them.
+  /// Returns the pages in order, the summary last; none when the PPD has no option of any panel. A
+  /// page's tab is titled with its windowTitle; its objectName is the same in every language. They
+  /// belong to the dialog that takes them.
   QList<Page *> pages() const;
 
   /// Settles what every panel shows; the session's marks are then those of the job.

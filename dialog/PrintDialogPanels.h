@@ -24,7 +24,7 @@ public:
   /// the QPrinter, as CUPS options. To be called when the dialog is accepted.
   void settle();
 
-  /// The choices that the job has to carry, as settled last.
+  /// Returns the choices that the job has to carry, as settled last.
   const std::vector<host::OptionChoice> &choices() const { return choices_; }
 
 private:

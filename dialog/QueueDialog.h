@@ -23,10 +23,10 @@ public:
   /// only settles the options.
   QueueDialog(PlugInModule &module, QPrinter &printer, const QStringList &documents);
 
-  /// The number of the job that was sent; none when there were no documents.
+  /// Returns the number of the job that was sent; none when there were no documents.
   std::optional<int> jobId() const { return jobId_; }
 
-  /// The job as it was sent, or would be.
+  /// Returns the job as it was sent, or would be.
   host::PrintJob job() const;
 
   void done(int result) override;

@@ -21,8 +21,8 @@ std::vector<OptionChoice> allConflicts(ppd_file_t *ppd, const ppd_option_t &opti
 std::vector<OptionChoice> conflictsOf(ppd_file_t *ppd, const ppd_option_t &option,
                                       const std::string &choice) {
   auto conflicts = allConflicts(ppd, option, choice);
-  // The library tells all of them. One that another choice of the option ends is with the option;
-  // one that no choice ends is among the others.
+  // cupsGetConflicts() reports every conflict in the PPD. A conflict involves `option` if marking
+  // another choice of it makes the conflict disappear.
   std::vector<OptionChoice> own;
   for (int i = 0; !conflicts.empty() && i < option.num_choices; ++i) {
     const auto others = allConflicts(ppd, option, option.choices[i].choice);

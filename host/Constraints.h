@@ -11,13 +11,13 @@
 
 namespace kwopde::host {
 
-/// The marked choices of other options that `choice` of `option` does not go with, whether it is
-/// marked or not. Conflicts that the others have among themselves do not count.
+/// Returns the marked choices of other options that `choice` of `option` does not go with, whether
+/// it is marked or not. Conflicts that the others have among themselves do not count.
 std::vector<OptionChoice> conflictsOf(ppd_file_t *ppd, const ppd_option_t &option,
                                       const std::string &choice);
 
-/// What to mark, besides `choice` of `option`, so that nothing conflicts any more; none when the
-/// CUPS library finds nothing. Marks nothing.
+/// Returns what to mark, besides `choice` of `option`, so that nothing conflicts any more; none
+/// when the CUPS library finds nothing. Marks nothing.
 std::optional<std::vector<OptionChoice>> resolve(ppd_file_t *ppd, const ppd_option_t &option,
                                                  const std::string &choice);
 

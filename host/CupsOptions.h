@@ -20,7 +20,7 @@ struct CupsOptions {
   CupsOptions &operator=(const CupsOptions &) = delete;
   ~CupsOptions() { cupsFreeOptions(count, options); }
 
-  /// All but `key`.
+  /// Returns all options but `key`.
   std::vector<OptionChoice> others(std::string_view key) const {
     std::vector<OptionChoice> list;
     for (int i = 0; i < count; ++i)

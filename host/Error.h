@@ -11,7 +11,8 @@ public:
   using std::runtime_error::runtime_error;
 };
 
-/// The same about a job: the printer or its server is in the way, not what was asked for.
+/// A job failed because of the printer or the server, not because of what the user asked for;
+/// retrying can help.
 class JobError : public Error {
 public:
   using Error::Error;

@@ -16,17 +16,17 @@ public:
   /// the file, the line and the CUPS library's reason when it cannot be read.
   static PpdFile open(const std::string &path);
 
-  /// The same with the texts as the file has them.
+  /// Opens it the same way, with the texts as the file has them.
   static PpdFile openUntrimmed(const std::string &path);
 
   /// Owned by this object.
   ppd_file_t *get() const { return ppd_.get(); }
 
-  /// The printer's name for people.
+  /// Returns the printer's name for people.
   std::string nickname() const;
 
-  /// The text for people of an option, or of one of its choices; the keyword when it has none, or
-  /// the PPD does not have it.
+  /// Returns the text for people of an option, or of one of its choices; the keyword when it has
+  /// none, or the PPD does not have it.
   std::string textOf(const std::string &key) const;
   std::string textOf(const std::string &key, const std::string &choice) const;
 

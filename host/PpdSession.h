@@ -67,8 +67,8 @@ public:
   /// the request is refused and every mark is as before.
   bool willChangePPDOptionKeyValue(const std::string *key, const std::string *ppdChoice) override;
 
-  /// Marks such a choice by the host's own will, constraints or not, and announces it. False when
-  /// the PPD does not have it; nothing is changed then.
+  /// Marks a choice on the host's own initiative, ignoring constraints, and announces it. Returns
+  /// false, and changes nothing, when the PPD does not have it.
   bool mark(const std::string &key, const std::string &choice);
 
   /// Marks what the user has saved for the printer; what the PPD does not have is passed over.
@@ -86,14 +86,14 @@ public:
 
   const PpdFile &ppd() const { return ppd_; }
 
-  /// The keyword of the marked choice of `key`; none when none is marked.
+  /// Returns the keyword of the marked choice of `key`; none when none is marked.
   std::optional<std::string> markedChoice(const std::string &key) const;
 
-  /// The limits of the option's custom value; none when it takes none.
+  /// Returns the limits of the option's custom value; none when it takes none.
   std::optional<CustomLimits> limits(const std::string &key) const;
 
-  /// The marked choices that differ from the PPD's defaults, in the PPD's order: what a job has to
-  /// carry.
+  /// Returns the marked choices that differ from the PPD's defaults, in the PPD's order: what a job
+  /// has to carry.
   std::vector<OptionChoice> changedChoices() const;
 
 private:

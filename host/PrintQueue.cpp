@@ -35,7 +35,7 @@ public:
   std::string path() const { return path_.data(); }
 
 private:
-  std::array<char, 1024> path_{};  // HTTP_MAX_BUFFER is more than any path of a temporary file
+  std::array<char, 1024> path_{};  // cupsGetPPD3() cuts a longer path of a temporary file
 };
 
 }  // namespace

@@ -33,8 +33,8 @@ public:
 
   const std::string &name() const { return name_; }
 
-  /// A session on the queue's PPD, with the user's saved options marked. Throws `Error` when the
-  /// queue has no PPD, or a broken one.
+  /// Returns a session on the queue's PPD, with the user's saved options marked. Throws `Error`
+  /// when the queue has no PPD, or a broken one.
   std::shared_ptr<PpdSession> openSession() const;
 
 private:

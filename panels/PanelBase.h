@@ -160,8 +160,8 @@ public:
   void queryNSStringFromPPD(std::optional<std::string> *value, const char *forKey);
   void querySettingsFromPPD();
 
-  /// The index of the marked choice of `option`, whose keyword is `forKey`, or else of its default
-  /// choice; -1 when it has neither.
+  /// Returns the index of the marked choice of `option`, whose keyword is `forKey`, or else of its
+  /// default choice; -1 when it has neither.
   int indexOfMarkedOption(ppd_option_t *option, const char *forKey);
   void updateMarkedSelections();
 
@@ -184,8 +184,8 @@ public:
   /// Labels the subview of the panel's view that has the tag with the title of `fromOptions`.
   void setViewTitleByTag(int tag, const ppd_option_t *fromOptions);
 
-  /// Releases the choice lists: the first step of a panel's end, then the callback, the name and the
-  /// view. A panel class calls it in its destructor, while it has them.
+  /// Releases the choice lists: the first step of a panel's end, then the callback, the name and
+  /// the view. A panel class calls it in its destructor, while it has them.
   void releaseChoices();
 
   // In the order in which the panels declare them; public for the tables and for inspection.

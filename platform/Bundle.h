@@ -48,9 +48,9 @@ class Bundle : public Object, public std::enable_shared_from_this<Bundle> {
 public:
   std::string_view className() const override { return "Bundle"; }
 
-  /// The text for `key` in the user's language, UTF-8. `value` stands in for a missing text, and
-  /// the key when that is null; `table` names the string table, null the usual one. No text gives
-  /// none.
+  /// Returns the text for `key` in the user's language, UTF-8. `value` stands in for a missing
+  /// text, and the key when that is null; `table` names the string table, null the usual one. No
+  /// text gives none.
   virtual std::optional<std::string> localizedStringForKey(const std::string &key,
                                                            const std::string *value,
                                                            const std::string *table) const = 0;

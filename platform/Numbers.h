@@ -6,12 +6,13 @@
 
 namespace kwopde {
 
-/// The leading decimal integer of `text`: blanks skipped, an optional sign, digits up to the first
-/// other character. No digits give 0; a number beyond the type's range gives the range's end.
+/// Returns the leading decimal integer of `text`: blanks skipped, an optional sign, digits up to
+/// the first other character. No digits give 0; a number beyond the type's range gives the range's
+/// end.
 int leadingInteger(std::string_view text);
 
-/// The leading decimal number of `text`, read the same way, with an optional fraction after a point
-/// and an optional exponent. Overflow gives the largest finite number, underflow 0.
+/// Returns the leading decimal number of `text`, read the same way, with an optional fraction after
+/// a point and an optional exponent. Overflow gives the largest finite number, underflow 0.
 double leadingDouble(std::string_view text);
 
 /// `number` cut toward zero to an int; beyond the int's range its end, and 0 for not-a-number.
@@ -21,7 +22,8 @@ int truncatedInteger(double number);
 /// 1.789 gives 1.78, and 1.15, whose hundredfold is a hair below 115, gives 1.14.
 double cutToHundredths(double number);
 
-/// The shortest decimal text that `leadingDouble` reads back as the same number: "1.14", "35".
+/// Returns the shortest decimal text that `leadingDouble` reads back as the same number: "1.14",
+/// "35".
 std::string shortestText(double number);
 
 }  // namespace kwopde

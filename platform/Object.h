@@ -13,7 +13,7 @@ public:
   Object &operator=(const Object &) = delete;
   virtual ~Object() = default;
 
-  /// The name of the object's own class; never empty, valid for the process's life.
+  /// Returns the name of the object's own class; never empty, valid for the process's life.
   virtual std::string_view className() const = 0;
 
   /// Returns the address that the trace shows for this object: its own, or that of a toolkit's

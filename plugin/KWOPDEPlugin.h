@@ -14,14 +14,14 @@ public:
 
   bool initWithBundle(Bundle *bundle) override;
 
-  /// The media panel (by the PPD's model number), the colour and the sharpen panel, in this order,
-  /// without those that the PPD has no use for.
+  /// Returns the media panel (by the PPD's model number), the colour and the sharpen panel, in this
+  /// order, without those that the PPD has no use for.
   const PanelList *PDEPanelsForType(const std::string *type,
                                     const std::shared_ptr<HostCallback> &withHostInfo) override;
 
 protected:
-  /// Makes a panel of `panelClass`; an adapter that has objects of its own for panels says how. Null
-  /// when the PPD has no use for it.
+  /// Makes a panel of `panelClass`; an adapter that has objects of its own for panels says how.
+  /// Null when the PPD has no use for it.
   virtual std::shared_ptr<Panel> makePanel(const PanelClass &panelClass,
                                            const std::shared_ptr<HostCallback> &host,
                                            Bundle *bundle);

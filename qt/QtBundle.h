@@ -17,7 +17,7 @@ public:
 
   std::string_view className() const override { return "QtBundle"; }
 
-  /// A string table is a translation context; the usual one is "Bundle".
+  /// Looks the key up in the translation context that `table` names; the usual one is "Bundle".
   std::optional<std::string> localizedStringForKey(const std::string &key, const std::string *value,
                                                    const std::string *table) const override;
 

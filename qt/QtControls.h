@@ -79,8 +79,8 @@ public:
 
   TextField *viewWithTag(int tag) override;
 
-  /// The control for `widget`, which is this view or below it; null when it is of no kind that a
-  /// panel can use. Made on the first call.
+  /// Returns the control for `widget`, which is this view or below it; null when it is of no kind
+  /// that a panel can use. Made on the first call.
   std::shared_ptr<View> control(QWidget *widget);
 
 private:

@@ -14,11 +14,11 @@ using Word = std::optional<std::string>;
 /// Returns `text` as a transcript shows it, in double quotes.
 std::string quoted(std::string_view text);
 
-/// Whether `line` holds no command: it is blank or a comment.
+/// Returns whether `line` holds no command: it is blank or a comment.
 bool isBlank(std::string_view line);
 
-/// The words of `line`, a command without its line end; none when it is blank. Throws `Error` when
-/// a quoted word does not end.
+/// Returns the words of `line`, a command without its line end; none when it is blank. Throws
+/// `Error` when a quoted word does not end.
 std::vector<Word> splitWords(std::string_view line);
 
 }  // namespace kwopde::script

@@ -43,7 +43,7 @@ private:
   static const Command kCommands[];
   static const Command kPlugInOperations[];
 
-  /// The command's result, as the transcript shows it. Throws `Error`.
+  /// Returns the command's result, as the transcript shows it. Throws `Error`.
   std::string perform(const std::vector<Word> &words);
 
   std::string pick(const std::vector<Word> &words);

@@ -10,8 +10,8 @@
 #include "host/Error.h"
 #include "host/Extension.h"
 #include "host/PpdSession.h"
-#include "script/ScriptRunner.h"
 #include "host/TraceTo.h"
+#include "script/ScriptRunner.h"
 
 namespace {
 

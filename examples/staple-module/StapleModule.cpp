@@ -101,8 +101,8 @@ public:
   void willShow() override {
     if (menu_ && !menu_->itemAtIndex(0))
       for (int i = 0; i < option_->num_choices; ++i)
-        menu_->addItem({option_->choices[i].text,
-                        std::make_shared<Choice>(option_->choices[i].choice)});
+        menu_->addItem(
+            {option_->choices[i].text, std::make_shared<Choice>(option_->choices[i].choice)});
     show();
   }
   bool shouldHide() override { return true; }

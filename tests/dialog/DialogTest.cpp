@@ -189,8 +189,9 @@ TEST(ModuleLoader, SaysWhichFileIsRefusedAndWhy) {
     const char *why;
   } rows[] = {{"/nonexistent.so", "/nonexistent.so: there is no such module"},
               {KWOPDE_SOURCE_FOLDER "/README.md", "README.md: not a print-dialog extension"},
-              {KWOPDE_OUTDATED_MODULE, "built for version 1.0 of the extension's contract, and this "
-                                       "program has version 2"}};
+              {KWOPDE_OUTDATED_MODULE,
+               "built for version 1.0 of the extension's contract, and this "
+               "program has version 2"}};
   for (const auto &row : rows)
     EXPECT_THAT([&] { dialog::loadModule(QString::fromStdString(row.file)); },
                 testing::ThrowsMessage<host::Error>(

@@ -109,18 +109,12 @@ TEST(Queue, SaysWhatIsInTheWay) {
   };
   const auto always = [](auto, auto) { return true; };
   EXPECT_THAT(why([] { PrintQueue("nowhere"); }), HasSubstr("there is no printer nowhere"));
-  EXPECT_THAT(why([&] {
-                host::send({"kwo-1200", "", {"/nope"}, {}}, always);
-              }),
+  EXPECT_THAT(why([&] { host::send({"kwo-1200", "", {"/nope"}, {}}, always); }),
               "/nope: No such file or directory");
-  EXPECT_THAT(why([&] {
-                host::send({"nowhere", "", {document("a.txt", "a")}, {}}, always);
-              }),
+  EXPECT_THAT(why([&] { host::send({"nowhere", "", {document("a.txt", "a")}, {}}, always); }),
               HasSubstr("nowhere took no job"));
   ASSERT_EQ(std::system("/usr/sbin/cupsreject kwo-basic"), 0);
-  EXPECT_THAT(why([&] {
-                host::send({"kwo-basic", "", {document("a.txt", "a")}, {}}, always);
-              }),
+  EXPECT_THAT(why([&] { host::send({"kwo-basic", "", {document("a.txt", "a")}, {}}, always); }),
               testing::MatchesRegex("the printer kwo-basic took no job: .*not accepting jobs.*"));
 }
 

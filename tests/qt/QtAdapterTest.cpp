@@ -69,9 +69,8 @@ TEST(QtSlider, ActsAtEveryStepOfTheUserAndNotForCode) {
   slider.widget.resize(200, 30);
   EXPECT_EQ(slider.actionsAfter([&] { QTest::keyClick(&slider.widget, Qt::Key_Right); }), 1);
   EXPECT_EQ(slider.actionsAfter([&] { slider.wheel(1); }), 1);
-  EXPECT_EQ(slider.actionsAfter([&] {
-    QTest::mouseClick(&slider.widget, Qt::LeftButton, {}, {190, 15});
-  }),
+  EXPECT_EQ(slider.actionsAfter(
+                [&] { QTest::mouseClick(&slider.widget, Qt::LeftButton, {}, {190, 15}); }),
             1);
   slider.control.setIntValue(0);
   std::vector<int> seen;
