@@ -169,8 +169,8 @@ public:
   /// Labels the subview of the panel's view that has the tag with the title of `fromOptions`.
   void setViewTitleByTag(int tag, const ppd_option_t *fromOptions);
 
-  /// Releases the choice lists: the first step of a panel's end, then the callback, the name and the
-  /// view. A panel class calls it in its destructor, while it has them.
+  /// Releases the choice lists: the first step of a panel's end, then the callback, the name and
+  /// the view. A panel class calls it in its destructor, while it has them.
   void releaseChoices();
 
   // In the order in which the panels declare them; public for the tables and for inspection.
