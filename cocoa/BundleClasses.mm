@@ -1,5 +1,8 @@
 #include "cocoa/BundleClasses.h"
 
+#include <cctype>
+#include <map>
+
 #include "cocoa/CocoaBundle.h"
 #include "cocoa/CocoaCallback.h"
 #include "cocoa/CocoaChoice.h"
@@ -206,7 +209,7 @@ struct KWOPDEPanelParts {
 @end
 
 @implementation KWOPDEPanel
-using Method1 = void (*)(KWOPDEPanel *self, SEL selector, id argument);
+using OneArgument = void (*)(KWOPDEPanel *self, SEL selector, id argument);
 
 static void setOutlet(KWOPDEPanel *self, SEL setter, id control) {
   KWOPDEPanelParts &own = *self->parts;
@@ -232,7 +235,7 @@ static void performAction(KWOPDEPanel *self, SEL action, id) {
 + (void)initialize {
   const auto prototype = [self prototype];
   if (!prototype) return;
-  const auto answer = [&](const std::string &selector, Method1 method) {
+  const auto answer = [&](const std::string &selector, OneArgument method) {
     class_addMethod(self, sel_registerName(selector.c_str()),
                     reinterpret_cast<IMP>(reinterpret_cast<void (*)()>(method)), "v@:@");
   };

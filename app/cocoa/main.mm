@@ -17,14 +17,6 @@ namespace {
 
 using namespace kwopde;
 
-/// GNUstep names languages in words and takes them from LANGUAGES; macOS asks the system's
-/// settings.
-void chooseLanguage() {
-  const char *language = std::getenv("LANGUAGE");
-  const bool german = language && std::string_view(language).starts_with("de");
-  setenv("LANGUAGES", german ? "German" : "English", 1);
-}
-
 /// Saves a picture of every panel's view in `folder`.
 void takePictures(const PanelList &panels, const std::string &folder) {
   for (const auto &panel : panels) {
@@ -98,7 +90,6 @@ int main(int argc, char **argv) {
   } catch (const CLI::ParseError &error) {
     return commandLine.exit(error) == 0 ? 0 : 2;
   }
-  chooseLanguage();
   NSAutoreleasePool *pool = [[NSAutoreleasePool alloc] init];
   int status = 2;
   try {
