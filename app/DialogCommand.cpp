@@ -14,6 +14,7 @@
 #include "dialog/Pictures.h"
 #include "dialog/PpdDialog.h"
 #include "dialog/QueueDialog.h"
+#include "host/JobOptions.h"
 #include "host/PpdSession.h"
 #include "host/PrintQueue.h"
 #include "host/TraceTo.h"
@@ -50,7 +51,9 @@ int ppdDialog(const DialogOptions &options) {
     names.append(QFileInfo(QString::fromStdString(document)).fileName());
   dialog::PpdDialog dialog(module, session, names.join(", "));
   if (!runDialog(dialog, options.snapshotFolder)) return kNotDone;
-  printChoices(session->changedChoices());
+  host::JobOptions job;
+  job.carry(*session);
+  printChoices(job.chosen());
   return kDone;
 }
 
@@ -67,7 +70,7 @@ int queueDialog(const DialogOptions &options) {
     documents.append(QString::fromStdString(document));
   dialog::QueueDialog dialog(module, printer, documents);
   if (!runDialog(dialog, options.snapshotFolder)) return kNotDone;
-  printChoices(dialog.job().options);
+  printChoices(dialog.chosenOptions());
   if (dialog.jobId()) reportSent(dialog.job(), *dialog.jobId());
   return kDone;
 }

@@ -1,12 +1,17 @@
 #include <fmt/format.h>
 #include <unistd.h>
 
+#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <csignal>
 #include <filesystem>
 #include <iostream>
 #include <memory>
+#include <numeric>
+#include <optional>
 #include <string>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 #include "app/Command.h"
@@ -14,10 +19,13 @@
 #include "app/JobReport.h"
 #include "app/TraceOption.h"
 #include "dialog/ModuleLoader.h"
+#include "host/CupsOptions.h"
 #include "host/Error.h"
+#include "host/JobOptions.h"
 #include "host/PpdSession.h"
 #include "host/PrintJob.h"
 #include "host/PrintQueue.h"
+#include "host/Refusals.h"
 #include "host/TraceTo.h"
 #include "qt/QtUserInput.h"
 #include "script/ScriptRunner.h"
@@ -29,48 +37,70 @@ namespace {
 volatile std::sig_atomic_t interrupted = 0;
 
 struct PrintOptions {
-  std::string printer;               // empty: the default queue
+  std::string printer;               // a queue or an instance; empty: the default one
   std::string script;                // empty: none; "-": standard input
-  std::vector<std::string> options;  // KEY=CHOICE
+  std::vector<std::string> options;  // as lp(1) takes them: KEY=CHOICE, KEY, noKEY
   std::string title;                 // empty: the first document's name
+  int copies = 0;                    // 0: not said
+  std::string pages;                 // page-ranges; empty: not said
+  bool force = false;                // print although something was refused
   std::vector<std::string> documents;
   std::string trace = "syslog";
 };
 
-/// Marks "KEY=CHOICE" in the PPD, or passes it on as an attribute of the job.
-void apply(const std::string &option, host::PpdSession &session, host::PrintJob &job) {
-  const auto equals = option.find('=');
-  if (equals == 0 || equals == option.npos)
-    throw host::Error(fmt::format("-o {}: not of the form KEY=CHOICE", option));
-  const std::string key = option.substr(0, equals);
-  const std::string choice = option.substr(equals + 1);
-  if (!ppdFindOption(session.ppdFile(), key.c_str()))
-    job.options.push_back({key, choice});
-  else if (!session.willChangePPDOptionKeyValue(&key, &choice))
-    throw host::Error(fmt::format("-o {}: {} cannot be {} on this printer", option,
-                                  session.ppd().textOf(key), choice));
+/// Returns how many letters have to be changed, put in or taken out to make `b` of `a`.
+std::size_t distance(std::string_view a, std::string_view b) {
+  std::vector<std::size_t> row(b.size() + 1);
+  std::iota(row.begin(), row.end(), 0);
+  for (std::size_t i = 0; i < a.size(); ++i) {
+    std::size_t diagonal = std::exchange(row[0], i + 1);
+    for (std::size_t j = 0; j < b.size(); ++j) {
+      const std::size_t changed = diagonal + (a[i] == b[j] ? 0 : 1);
+      diagonal = std::exchange(row[j + 1], std::min({changed, row[j] + 1, row[j + 1] + 1}));
+    }
+  }
+  return row.back();
 }
 
-int print(const PrintOptions &options) {
-  const host::PrintQueue queue(options.printer);
-  const auto session = queue.openSession();
-  host::PrintJob job{queue.name(), options.title, options.documents, {}};
-  expectReadable(job.documents);
-  if (job.title.empty()) job.title = std::filesystem::path(job.documents.front()).filename();
-  for (const std::string &option : options.options) apply(option, *session, job);
+/// Tells of an option that the printer does not have, but one of nearly the same name.
+void noteUnknown(const std::string &key, const host::PpdFile &ppd) {
+  ppd.forEachOption([&](const ppd_option_t &option) {
+    if (distance(key, option.keyword) <= 2)
+      fmt::print(stderr, "kwopde: note: -o {}: the printer has no such option, but {}\n", key,
+                 option.keyword);
+  });
+}
 
-  if (!options.script.empty()) {
-    ScriptSource script(options.script);
-    PlugInModule &module = dialog::loadModule();
-    const auto sink = openTrace(options.trace);
-    const host::TraceTo trace(module, sink.get());
-    qt::QtUserInput user;
-    std::ostream transcript(nullptr);  // discarded: print tells of the job only
-    if (!script::ScriptRunner(module, session, user, transcript, std::cerr).run(script.stream()))
-      return kNotDone;
+/// Reads one -o as lp(1) does. Options of the printer are asked for, the others go with the job.
+void apply(const std::string &words, host::PpdSession &session, host::JobOptions &job) {
+  host::CupsOptions parsed;
+  parsed.count = cupsParseOptions(words.c_str(), 0, &parsed.options);
+  if (parsed.count == 0) throw host::Error(fmt::format("-o {}: not an option", words));
+  for (int i = 0; i < parsed.count; ++i) {
+    const std::string key = parsed.options[i].name;
+    const std::string choice = parsed.options[i].value;
+    if (ppdFindOption(session.ppdFile(), key.c_str())) {
+      session.willChangePPDOptionKeyValue(&key, &choice);
+    } else {
+      noteUnknown(key, session.ppd());
+      job.set(key, choice);
+    }
   }
+}
 
-  for (const auto &change : session->changedChoices()) job.options.push_back(change);
+/// Runs the script on the panels of the module. Returns whether all of it could be run.
+bool runScript(const PrintOptions &options, const std::shared_ptr<host::PpdSession> &session) {
+  ScriptSource source(options.script);
+  PlugInModule &module = dialog::loadModule();
+  const auto sink = openTrace(options.trace);
+  const host::TraceTo trace(module, sink.get());
+  qt::QtUserInput user;
+  std::ostream transcript(nullptr);  // discarded: print tells of the job only
+  return script::ScriptRunner(module, session, user, transcript, std::cerr).run(source.stream());
+}
+
+/// Sends the job, and tells how far it is on a terminal. Returns its number; none when interrupted.
+std::optional<int> send(const host::PrintJob &job) {
   std::signal(SIGINT, [](int) { interrupted = 1; });
   const bool showsProgress = isatty(STDERR_FILENO) != 0;
   const auto id = host::send(job, [&](long long sent, long long total) {
@@ -78,11 +108,37 @@ int print(const PrintOptions &options) {
     return interrupted == 0;
   });
   if (showsProgress) fmt::print(stderr, "\n");
+  return id;
+}
+
+int print(const PrintOptions &options) {
+  const host::PrintQueue queue(options.printer);
+  const auto session = queue.openSession();
+  expectReadable(options.documents);
+  host::JobOptions carried(queue.options());
+  {
+    const host::Refusals refusals(*session);
+    for (const std::string &words : options.options) apply(words, *session, carried);
+    if (options.copies > 0) carried.set("copies", std::to_string(options.copies));
+    if (!options.pages.empty()) carried.set("page-ranges", options.pages);
+    if (!options.script.empty() && !runScript(options, session)) return kNotDone;
+    const auto refused = refusals.sentences();
+    for (const std::string &sentence : refused) fmt::print(stderr, "kwopde: {}\n", sentence);
+    if (!refused.empty() && !options.force) {
+      fmt::print(stderr, "kwopde: nothing was printed; --force prints all the same\n");
+      return kNotDone;
+    }
+  }
+  carried.carry(*session);
+
+  host::PrintJob job{queue.name(), options.title, options.documents, carried.all()};
+  if (job.title.empty()) job.title = std::filesystem::path(job.documents.front()).filename();
+  const auto id = send(job);
   if (!id) {
     fmt::print(stderr, "kwopde: cancelled; the printer has no job\n");
     return kNotDone;
   }
-  printChoices(job.options);
+  printChoices(carried.chosen());
   reportSent(job, *id);
   return kDone;
 }
@@ -93,7 +149,9 @@ Command addPrintCommand(CLI::App &commandLine) {
   const auto options = std::make_shared<PrintOptions>();
   CLI::App *command = commandLine.add_subcommand(
       "print", "Sends documents to a queue as one job, without a dialog");
-  command->add_option("--printer", options->printer, "The queue; else the default one")
+  command
+      ->add_option("--printer,-d", options->printer,
+                   "The queue, or an instance of it (QUEUE/NAME); else the default one")
       ->type_name("QUEUE");
   command
       ->add_option("--script", options->script,
@@ -101,10 +159,17 @@ Command addPrintCommand(CLI::App &commandLine) {
       ->type_name("SCRIPT");
   command
       ->add_option("-o", options->options,
-                   "An option of the printer, or an attribute of the job such as copies=2")
+                   "An option of the printer, or an attribute of the job such as sides=one-sided; "
+                   "as lp takes it")
       ->type_name("KEY=CHOICE")
       ->allow_extra_args(false);
-  command->add_option("--title", options->title, "The job's title")->type_name("TITLE");
+  command->add_option("--copies,-n", options->copies, "How many copies")
+      ->type_name("N")
+      ->check(CLI::PositiveNumber);
+  command->add_option("--pages,-P", options->pages, "The pages: 1-4,7")->type_name("LIST");
+  command->add_option("--title,-t", options->title, "The job's title")->type_name("TITLE");
+  command->add_flag("--force", options->force,
+                    "Prints although an option was refused or had to give way");
   addTraceOption(*command, options->trace)->capture_default_str();
   command->add_option("documents", options->documents, "What to print")
       ->required()

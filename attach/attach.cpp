@@ -1,5 +1,7 @@
 #include "attach/kwopde/attach.h"
 
+#include <QEvent>
+#include <QMessageBox>
 #include <QPrintDialog>
 #include <QtDebug>
 
@@ -10,13 +12,52 @@
 
 namespace kwopde {
 
+namespace {
+
+/// Says that a dialog has its panels, also to another copy of this library in the same process.
+constexpr const char *kHasPanels = "kwopdeHasPanels";
+
+/// Settles the panels when the dialog goes away accepted. That is before anybody hears `accepted`,
+/// whatever the application connected to it, and however it opened the dialog.
+class Settling final : public QObject {
+public:
+  Settling(QPrintDialog &dialog, dialog::PrintDialogPanels &panels)
+      : QObject(&panels), dialog_(dialog), panels_(panels) {
+    dialog.installEventFilter(this);
+  }
+
+  bool eventFilter(QObject *, QEvent *event) override {
+    if (event->type() == QEvent::Hide && dialog_.result() == QDialog::Accepted) settle();
+    return false;
+  }
+
+private:
+  void settle() {
+    panels_.settle();
+    panels_.handOver();
+    // The application prints now, so this can only be told.
+    const QStringList problems = panels_.refusals() + panels_.conflicts();
+    if (problems.isEmpty()) return;
+    QMessageBox box(QMessageBox::Warning, dialog_.windowTitle(), problems.join("\n\n"),
+                    QMessageBox::Ok, &dialog_);
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+  }
+
+  QPrintDialog &dialog_;
+  dialog::PrintDialogPanels &panels_;
+};
+
+}  // namespace
+
 bool attachPanels(QPrintDialog *dialog) {
   if (!dialog) return false;
+  if (dialog->property(kHasPanels).toBool()) return true;
   try {
     PlugInModule &module = dialog::loadModule();
     dialog::installTranslations();
-    auto *panels = new dialog::PrintDialogPanels(module, *dialog);  // the dialog's
-    QObject::connect(dialog, &QDialog::accepted, panels, &dialog::PrintDialogPanels::settle);
+    new Settling(*dialog, *new dialog::PrintDialogPanels(module, *dialog));  // the dialog's
+    dialog->setProperty(kHasPanels, true);
     return true;
   } catch (const host::Error &error) {
     qWarning("kwopde: %s", error.what());

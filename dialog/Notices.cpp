@@ -1,5 +1,7 @@
 #include "dialog/Notices.h"
 
+#include <algorithm>
+
 namespace kwopde::dialog {
 
 Notices::Notices(host::PpdSession &session) : session_(session) {
@@ -13,50 +15,84 @@ Notices::~Notices() {
 void Notices::requestWasAnswered(const std::string *key, const std::string *choice,
                                  const host::Answer &answer) {
   if (!key || !choice) return;
-  const QString option = QString::fromStdString(*key);
-  const QString before = sentences_.value(option);
-  const QString now = sentence(*key, *choice, answer);
-  if (now == before) return;
-  if (now.isEmpty())
-    sentences_.remove(option);
-  else
-    sentences_[option] = now;
-  emit changed(QStringList(sentences_.values()).join('\n'));
+  std::erase_if(notices_, [&](const Notice &notice) { return isAbout(notice, *key); });
+  if (!answer.granted() || !answer.changes.empty()) notices_.push_back({*key, *choice, answer});
+  tell();
 }
 
-QString Notices::sentence(const std::string &key, const std::string &choice,
-                          const host::Answer &answer) const {
-  const host::PpdFile &ppd = session_.ppd();
-  const QString option = QString::fromStdString(ppd.textOf(key));
-  const QString wanted = QString::fromStdString(ppd.textOf(key, choice));
+std::vector<Notices::Refusal> Notices::refusals() const {
+  std::vector<Refusal> refusals;
+  for (const Notice &notice : notices_) {
+    if (notice.answer.granted()) continue;
+    const auto kept = session_.markedChoice(notice.key);
+    QString text = sentence(notice);
+    if (kept) text += ' ' + tr("The job would print %1.").arg(textOf(notice.key, *kept));
+    if (!text.isEmpty()) refusals.push_back({notice.key, text});
+  }
+  return refusals;
+}
+
+bool Notices::isAbout(const Notice &notice, const std::string &key) const {
+  const auto &changes = notice.answer.changes;
+  return notice.key == key || std::any_of(changes.begin(), changes.end(),
+                                          [&](const auto &change) { return change.key == key; });
+}
+
+QString Notices::sentence(const Notice &notice) const {
+  const auto &[key, choice, answer] = notice;
+  const QString option = titleOf(key);
+  const QString wanted = textOf(key, choice);
+  using Reason = host::Answer::Reason;
   switch (answer.reason) {
-    case host::Answer::Reason::granted:
-      if (answer.changes.empty()) return {};
-      return tr("Changed %1, to go with %2: %3.").arg(text(answer.changes), option, wanted);
-    case host::Answer::Reason::conflict:
-      return tr("%1 cannot be %2 together with %3.").arg(option, wanted, text(answer.conflicts));
-    case host::Answer::Reason::outsideLimits:
-      if (const auto limits = session_.limits(key))
+    case Reason::granted: {
+      QStringList sentences;
+      for (const auto &change : answer.changes)
+        sentences.append(tr("Changed %1 from %2 to %3, to go with %4: %5.")
+                             .arg(titleOf(change.key), textOf(change.key, change.before),
+                                  textOf(change.key, change.choice), option, wanted));
+      return sentences.join('\n');
+    }
+    case Reason::conflict:
+      return tr("%1 cannot be %2 together with %3.").arg(option, wanted, conflictText(answer));
+    case Reason::outsideLimits:
+      if (const auto range = session_.range(key))
         return tr("%1 cannot be %2: this printer takes %3 to %4.")
             .arg(option, wanted)
-            .arg(limits->minimum)
-            .arg(limits->maximum);
+            .arg(range->minimum)
+            .arg(range->maximum);
       [[fallthrough]];
-    case host::Answer::Reason::unlisted:
+    case Reason::unlisted:
       return tr("%1 cannot be %2: this printer has no such choice.").arg(option, wanted);
-    case host::Answer::Reason::unwilling:
-    case host::Answer::Reason::unknownOption:
+    case Reason::unwilling:
+    case Reason::unknownOption:
       return {};
   }
   return {};
 }
 
-QString Notices::text(const std::vector<host::OptionChoice> &choices) const {
+QString Notices::titleOf(const std::string &key) const {
+  return QString::fromStdString(session_.ppd().textOf(key));
+}
+
+QString Notices::textOf(const std::string &key, const std::string &choice) const {
+  return QString::fromStdString(session_.ppd().textOf(key, choice));
+}
+
+QString Notices::conflictText(const host::Answer &answer) const {
   QStringList texts;
-  for (const auto &[key, choice] : choices)
-    texts.append(tr("%1: %2").arg(QString::fromStdString(session_.ppd().textOf(key)),
-                                  QString::fromStdString(session_.ppd().textOf(key, choice))));
+  for (const auto &[key, choice] : answer.conflicts)
+    texts.append(tr("%1: %2").arg(titleOf(key), textOf(key, choice)));
   return texts.join(", ");
+}
+
+void Notices::tell() {
+  QStringList sentences;
+  for (const Notice &notice : notices_)
+    if (const QString text = sentence(notice); !text.isEmpty()) sentences.append(text);
+  const QString all = sentences.join('\n');
+  if (all == told_) return;
+  told_ = all;
+  emit changed(all);
 }
 
 }  // namespace kwopde::dialog

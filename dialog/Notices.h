@@ -1,9 +1,9 @@
 // What a session refused or changed by itself, in sentences for people.
 #pragma once
 
-#include <QMap>
 #include <QObject>
 #include <QString>
+#include <vector>
 
 #include "host/PpdSession.h"
 
@@ -21,18 +21,38 @@ public:
                           const host::Answer &answer) override;
   void willAnnounce(const host::OptionChoice &) override {}
 
+  /// A request that was refused, and that nobody has taken back since.
+  struct Refusal {
+    std::string key;
+    QString sentence;  // what the printer takes, and what the job keeps
+    bool operator==(const Refusal &) const = default;
+  };
+
+  /// Returns the refusals that stand, in the order of asking.
+  std::vector<Refusal> refusals() const;
+
 signals:
-  /// All that there is to say now, a sentence a line; empty when there is nothing. An option's
-  /// sentence stands until the option is asked for again.
+  /// All that there is to say now, a sentence a line; empty when there is nothing. A sentence
+  /// stands until one of its options is asked for again.
   void changed(const QString &text);
 
 private:
-  QString sentence(const std::string &key, const std::string &choice,
-                   const host::Answer &answer) const;
-  QString text(const std::vector<host::OptionChoice> &choices) const;
+  struct Notice {
+    std::string key;
+    std::string choice;
+    host::Answer answer;
+  };
+
+  bool isAbout(const Notice &notice, const std::string &key) const;
+  QString sentence(const Notice &notice) const;
+  QString titleOf(const std::string &key) const;
+  QString textOf(const std::string &key, const std::string &choice) const;
+  QString conflictText(const host::Answer &answer) const;
+  void tell();
 
   host::PpdSession &session_;
-  QMap<QString, QString> sentences_;  // by option
+  std::vector<Notice> notices_;
+  QString told_;
 };
 
 }  // namespace kwopde::dialog

@@ -1,5 +1,6 @@
 #include "dialog/Page.h"
 
+#include <QAccessible>
 #include <QLabel>
 #include <QScrollArea>
 #include <QStyle>
@@ -19,23 +20,27 @@ QList<QWidget *> focusChain(QWidget *top) {
 
 }  // namespace
 
-Page::Page() : area_(new QScrollArea), notice_(new QLabel) {
+Page::Page() : area_(new QScrollArea), remark_(new QLabel), notice_(new QLabel) {
   auto *layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(area_, 1);
+  layout->addWidget(remark_);
   layout->addWidget(notice_);
   area_->setFrameShape(QFrame::NoFrame);
   area_->setWidgetResizable(true);
   area_->setFocusPolicy(Qt::NoFocus);
   area_->viewport()->setAutoFillBackground(false);
+  remark_->setObjectName("remark");
   notice_->setObjectName("notice");
-  notice_->setTextFormat(Qt::PlainText);
-  notice_->setWordWrap(true);
-  // In line with the captions of a panel.
-  notice_->setContentsMargins(style()->pixelMetric(QStyle::PM_LayoutLeftMargin), 0,
+  for (QLabel *label : {remark_, notice_}) {
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    // In line with the captions of a panel.
+    label->setContentsMargins(style()->pixelMetric(QStyle::PM_LayoutLeftMargin), 0,
                               style()->pixelMetric(QStyle::PM_LayoutRightMargin),
                               style()->pixelMetric(QStyle::PM_LayoutBottomMargin));
-  notice_->hide();
+    label->hide();
+  }
 }
 
 QSize Page::sizeHint() const {
@@ -46,6 +51,14 @@ QSize Page::sizeHint() const {
 void Page::setNotice(const QString &text) {
   notice_->setText(text);
   notice_->setVisible(!text.isEmpty());
+  if (text.isEmpty()) return;
+  QAccessibleEvent event(notice_, QAccessible::Alert);
+  QAccessible::updateAccessibility(&event);
+}
+
+void Page::setRemark(const QString &text) {
+  remark_->setText(text);
+  remark_->setVisible(!text.isEmpty());
 }
 
 void Page::setContent(QWidget *content) {

@@ -16,8 +16,11 @@ public:
 
   QSize sizeHint() const override;
 
-  /// Shows `text` below the content; empty takes the line away.
+  /// Shows `text` below the content; empty takes the line away. Screen readers hear it.
   void setNotice(const QString &text);
+
+  /// Shows `text` as the last line of the page, as long as the page lives.
+  void setRemark(const QString &text);
 
 protected:
   /// Shows `content`, which now belongs to the page, in place of what was there. It scrolls where a
@@ -26,6 +29,7 @@ protected:
 
 private:
   QScrollArea *area_;
+  QLabel *remark_;
   QLabel *notice_;
 };
 

@@ -1,8 +1,11 @@
 #include "dialog/PanelPages.h"
 
+#include <QComboBox>
 #include <QHideEvent>
+#include <QLineEdit>
 #include <QShowEvent>
 #include <QWhatsThis>
+#include <algorithm>
 
 #include "dialog/SummaryPage.h"
 #include "platform/PanelInspector.h"
@@ -25,7 +28,7 @@ QString nameOf(Panel &panel) {
 
 }  // namespace
 
-PanelPage::PanelPage(Panel &panel) : panel_(panel) {
+PanelPage::PanelPage(Panel &panel, ppd_file_t *ppd) : panel_(panel), ppd_(ppd) {
   setWindowTitle(titleOf(panel));
   setObjectName(nameOf(panel));
 }
@@ -38,16 +41,51 @@ void PanelPage::showHelp() {
 
 void PanelPage::print() {
   panel_.shouldPrint();
-  // A panel that nobody has seen has nothing of its own to save.
-  if (seen_) panel_.saveValuesAndReturnError(nullptr);
+}
+
+QWidget *PanelPage::controlOf(const std::string &key) const {
+  for (const PanelOption &option : optionsOf(panel_))
+    if (option.key == key) return widgetAt(option.field.empty() ? option.popUp : option.field);
+  return nullptr;
 }
 
 void PanelPage::showEvent(QShowEvent *event) {
   Page::showEvent(event);
   if (event->spontaneous()) return;
-  if (QWidget *panelView = view(); panelView && !seen_) setContent(panelView);
+  QWidget *panelView = view();
   panel_.willShow();
+  if (panelView && !seen_) showContent(panelView);
   seen_ = true;
+}
+
+void PanelPage::showContent(QWidget *panelView) {
+  setContent(panelView);
+  QStringList missing;
+  for (const PanelOption &option : optionsOf(panel_)) {
+    const bool printerHasIt = ppdFindOption(ppd_, option.key.c_str()) != nullptr;
+    if (auto *menu = qobject_cast<QComboBox *>(widgetAt(option.popUp)); menu && !printerHasIt)
+      menu->setPlaceholderText(tr("Not available"));
+    auto *field = qobject_cast<QLineEdit *>(widgetAt(option.field));
+    if (!field) continue;
+    const QWidget *named = widgetAt(option.slider.empty() ? option.field : option.slider);
+    if (!printerHasIt) missing.append(named->accessibleName());
+    // A panel reads its fields when it is left. Somebody who goes on to a menu of the same panel
+    // has left the field too.
+    connect(field, &QLineEdit::editingFinished, this, [this, field] {
+      if (!field->isModified()) return;
+      panel_.shouldHide();
+      panel_.willShow();
+      field->setModified(false);
+    });
+  }
+  if (!missing.isEmpty())
+    setRemark(tr("This printer does not adjust: %1.").arg(missing.join(", ")));
+}
+
+QWidget *PanelPage::widgetAt(std::string_view outlet) const {
+  const PanelInspector *inspector = inspectorOf(panel_);
+  const View *control = inspector ? inspector->control(outlet) : nullptr;
+  return control ? static_cast<QWidget *>(control->nativeView()) : nullptr;
 }
 
 void PanelPage::hideEvent(QHideEvent *event) {
@@ -71,9 +109,9 @@ PanelPages::PanelPages(PlugInModule &module, std::shared_ptr<host::PpdSession> s
   if (!panels) return;
   for (const auto &panel : *panels) {
     panel->restoreValuesAndReturnError(nullptr);
-    panelPages_.append(new PanelPage(*panel));
+    panelPages_.append(new PanelPage(*panel, session_->ppdFile()));
   }
-  summaryPage_ = new SummaryPage(*panels);
+  summaryPage_ = new SummaryPage(*panels, session_->ppdFile());
   for (Page *page : pages()) connect(&notices_, &Notices::changed, page, &Page::setNotice);
 }
 
@@ -89,9 +127,30 @@ QList<Page *> PanelPages::pages() const {
   return pages;
 }
 
-void PanelPages::print() {
+bool PanelPages::print() {
   for (const auto &page : panelPages_)
     if (page) page->print();
+  const auto refused = notices_.refusals();
+  const bool isNews = std::any_of(refused.begin(), refused.end(), [&](const auto &refusal) {
+    return std::find(told_.begin(), told_.end(), refusal) == told_.end();
+  });
+  told_ = refused;
+  if (!isNews) return true;
+  for (const auto &page : panelPages_) {
+    QWidget *control = page ? page->controlOf(refused.front().key) : nullptr;
+    if (!control) continue;
+    emit asksFor(page);
+    page->setNotice(refusals().join('\n'));
+    control->setFocus();
+    if (auto *field = qobject_cast<QLineEdit *>(control)) field->selectAll();
+  }
+  return false;
+}
+
+QStringList PanelPages::refusals() const {
+  QStringList sentences;
+  for (const auto &refusal : notices_.refusals()) sentences.append(refusal.sentence);
+  return sentences;
 }
 
 }  // namespace kwopde::dialog

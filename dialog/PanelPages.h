@@ -20,8 +20,8 @@ class PanelPage final : public Page {
   Q_OBJECT
 
 public:
-  /// `panel` is borrowed.
-  explicit PanelPage(Panel &panel);
+  /// `panel`, which works on the PPD, is borrowed, and so is `ppd`.
+  PanelPage(Panel &panel, ppd_file_t *ppd);
 
   /// Shows the panel's own help, when the panel lets the dialog do so.
   void showHelp();
@@ -29,14 +29,21 @@ public:
   /// Settles what is shown, for a job that is about to be sent.
   void print();
 
+  /// Returns the widget in which a person sets the option `key`; null when the panel does not
+  /// handle it, or does not tell.
+  QWidget *controlOf(const std::string &key) const;
+
 protected:
   void showEvent(QShowEvent *event) override;
   void hideEvent(QHideEvent *event) override;
 
 private:
   QWidget *view();
+  void showContent(QWidget *panelView);
+  QWidget *widgetAt(std::string_view outlet) const;
 
   Panel &panel_;
+  ppd_file_t *ppd_;
   bool seen_ = false;
 };
 
@@ -56,8 +63,17 @@ public:
   /// belong to the dialog that takes them.
   QList<Page *> pages() const;
 
-  /// Settles what every panel shows; the session's marks are then those of the job.
-  void print();
+  /// Settles what every panel shows; the session's marks are then those of the job. Returns false
+  /// when something that was asked for is refused, and was not when this was called last: its page
+  /// and its control are then in front, and the page tells what the job would carry.
+  bool print();
+
+  /// Returns what was asked for and refused, a sentence each.
+  QStringList refusals() const;
+
+signals:
+  /// A page that a person has to see now.
+  void asksFor(QWidget *page);
 
 private:
   std::shared_ptr<host::PpdSession> session_;
@@ -65,6 +81,7 @@ private:
   host::Extension extension_;
   QList<QPointer<PanelPage>> panelPages_;
   QPointer<Page> summaryPage_;
+  std::vector<Notices::Refusal> told_;  // by the last call of print
 };
 
 }  // namespace kwopde::dialog

@@ -38,6 +38,7 @@ PpdDialog::PpdDialog(PlugInModule &module, const std::shared_ptr<host::PpdSessio
     tabs_ = new QTabWidget;
     tabs_->setObjectName("tabs");
     for (Page *page : pages) tabs_->addTab(page, page->windowTitle());
+    connect(&pages_, &PanelPages::asksFor, tabs_, &QTabWidget::setCurrentWidget);
     layout->addWidget(tabs_, 1);
   }
 
@@ -54,8 +55,7 @@ PpdDialog::PpdDialog(PlugInModule &module, const std::shared_ptr<host::PpdSessio
 }
 
 void PpdDialog::accept() {
-  pages_.print();
-  QDialog::accept();
+  if (pages_.print()) QDialog::accept();
 }
 
 void PpdDialog::showHelp() {

@@ -1,26 +1,15 @@
 #include "dialog/PrintDialogPanels.h"
 
 #include <QComboBox>
-#include <QPrintEngine>
 #include <QPrinter>
+#include <QTabWidget>
+#include <algorithm>
 
+#include "dialog/PrinterOptions.h"
 #include "host/Error.h"
 #include "host/PrintQueue.h"
 
 namespace kwopde::dialog {
-
-namespace {
-
-/// The print engine's list of CUPS options, key and value in turn; KDE's applications use it too.
-constexpr auto kCupsOptions = QPrintEngine::PrintEnginePropertyKey(0xfe00);
-
-void setCupsOption(QStringList &options, const QString &key, const QString &value) {
-  for (qsizetype i = 0; i + 1 < options.size(); i += 2)
-    if (options[i] == key) return void(options[i + 1] = value);
-  options << key << value;
-}
-
-}  // namespace
 
 PrintDialogPanels::PrintDialogPanels(PlugInModule &module, QPrintDialog &dialog)
     : QObject(&dialog), module_(module), dialog_(dialog) {
@@ -33,28 +22,89 @@ PrintDialogPanels::PrintDialogPanels(PlugInModule &module, QPrintDialog &dialog)
 void PrintDialogPanels::showPanelsOf(const QString &printer) {
   pages_.reset();
   session_.reset();
-  choices_.clear();
+  destination_.clear();
   if (printer.isEmpty()) return;
   try {
-    session_ = host::PrintQueue(printer.toStdString()).openSession();
+    const host::PrintQueue queue(printer.toStdString());
+    session_ = queue.openSession();
+    destination_ = queue.options();
   } catch (const host::Error &) {
     return;  // not a queue with a PPD: a printer that is not ours
   }
+  session_->setFixed(optionsOfQt());
   pages_ = std::make_unique<PanelPages>(module_, session_);
   QList<QWidget *> tabs;
   for (Page *page : pages_->pages()) tabs.append(page);
   if (!tabs.isEmpty()) dialog_.setOptionTabs(tabs);
+  connect(pages_.get(), &PanelPages::asksFor, this, [this](QWidget *page) {
+    if (auto *tabWidget = dialog_.findChild<QTabWidget *>()) tabWidget->setCurrentWidget(page);
+  });
 }
 
-void PrintDialogPanels::settle() {
-  if (!pages_ || pages_->pages().isEmpty()) return;
-  pages_->print();
-  choices_ = session_->changedChoices();
-  QPrintEngine *const engine = dialog_.printer()->printEngine();
-  QStringList options = engine->property(kCupsOptions).toStringList();
-  for (const auto &[key, choice] : choices_)
-    setCupsOption(options, QString::fromStdString(key), QString::fromStdString(choice));
-  engine->setProperty(kCupsOptions, options);
+bool PrintDialogPanels::settle() {
+  if (!hasPanels()) return true;
+  const bool asShown = pages_->print();
+  learnFromQt();
+  return asShown;
+}
+
+QStringList PrintDialogPanels::refusals() const {
+  return hasPanels() ? pages_->refusals() : QStringList();
+}
+
+QStringList PrintDialogPanels::conflicts() const {
+  QStringList texts;
+  if (!hasPanels()) return texts;
+  const host::PpdFile &ppd = session_->ppd();
+  for (const auto &[key, choice] : session_->conflicts())
+    texts.append(tr("%1: %2").arg(QString::fromStdString(ppd.textOf(key)),
+                                  QString::fromStdString(ppd.textOf(key, choice))));
+  if (texts.isEmpty()) return texts;
+  return {tr("This printer cannot do these together: %1.").arg(texts.join(", "))};
+}
+
+void PrintDialogPanels::learnFromQt() {
+  const QPrinter &printer = *dialog_.printer();
+  session_->mark("PageSize", printer.pageLayout().pageSize().key().toStdString());
+  session_->mark("Duplex", duplexChoice(printer));
+  // What was picked among the printer's options in Qt's own Properties counts where the panels have
+  // left the option as it was.
+  const auto settled = session_->settledChoices();
+  for (const auto &[key, choice] : cupsOptions(printer)) {
+    const bool panelHasIt = std::any_of(settled.begin(), settled.end(), [&](const auto &option) {
+      return option.key == key && !option.isDefault;
+    });
+    if (!panelHasIt) session_->mark(key, choice);
+  }
+}
+
+host::JobOptions PrintDialogPanels::jobOptions() const {
+  host::JobOptions job(destination_);
+  setPrinterOptions(*dialog_.printer(), job);
+  if (hasPanels()) carryPanels(job);
+  return job;
+}
+
+void PrintDialogPanels::handOver() {
+  if (!hasPanels()) return;
+  QPrinter &printer = *dialog_.printer();
+  host::JobOptions known(destination_);
+  const auto list = cupsOptions(printer);
+  for (const auto &[key, choice] : list) known.set(key, choice);
+  carryPanels(known);
+  host::JobOptions handed(list);
+  for (const auto &[key, choice, isDefault] : session_->settledChoices())
+    if (const auto value = known.value(key); value && !optionsOfQt().contains(key))
+      handed.set(key, *value);
+  setCupsOptions(printer, handed.all());
+}
+
+void PrintDialogPanels::carryPanels(host::JobOptions &job) const {
+  job.carry(*session_, optionsOfQt());
+}
+
+bool PrintDialogPanels::hasPanels() const {
+  return pages_ && !pages_->pages().isEmpty();
 }
 
 }  // namespace kwopde::dialog

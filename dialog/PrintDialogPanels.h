@@ -3,10 +3,10 @@
 
 #include <QObject>
 #include <QPrintDialog>
-#include <functional>
 #include <memory>
 
 #include "dialog/PanelPages.h"
+#include "host/JobOptions.h"
 #include "host/PpdSession.h"
 
 namespace kwopde::dialog {
@@ -20,21 +20,36 @@ public:
   /// `module` makes the panels. The dialog owns this object.
   PrintDialogPanels(PlugInModule &module, QPrintDialog &dialog);
 
-  /// Settles what the panels show and hands the choices that differ from the printer's defaults to
-  /// the QPrinter, as CUPS options. To be called when the dialog is accepted.
-  void settle();
+  /// Settles what the panels show, and lets the session know what Qt's tabs hold. To be called when
+  /// the dialog is accepted. Returns false when something was refused, and was not when this was
+  /// called last; the page that it is on is then in front.
+  bool settle();
 
-  /// Returns the choices that the job has to carry, as settled last.
-  const std::vector<host::OptionChoice> &choices() const { return choices_; }
+  /// Returns what was asked for and refused, a sentence each.
+  QStringList refusals() const;
+
+  /// Returns what is set, here or in Qt's tabs, and does not go together, as a sentence; none when
+  /// all does.
+  QStringList conflicts() const;
+
+  /// Returns all that a job of this dialog carries, as settled last.
+  host::JobOptions jobOptions() const;
+
+  /// Hands what the panels have settled to the dialog's QPrinter, as CUPS options, for an
+  /// application that paints on it. What Qt has in hand itself (paper, sides) stays Qt's.
+  void handOver();
 
 private:
   void showPanelsOf(const QString &printer);
+  void learnFromQt();
+  void carryPanels(host::JobOptions &job) const;
+  bool hasPanels() const;
 
   PlugInModule &module_;
   QPrintDialog &dialog_;
-  std::shared_ptr<host::PpdSession> session_;  // null for a printer without panels
+  std::shared_ptr<host::PpdSession> session_;    // null for a printer without panels
+  std::vector<host::OptionChoice> destination_;  // what is saved for the printer
   std::unique_ptr<PanelPages> pages_;
-  std::vector<host::OptionChoice> choices_;
 };
 
 }  // namespace kwopde::dialog

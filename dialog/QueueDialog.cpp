@@ -4,7 +4,6 @@
 #include <QDialogButtonBox>
 #include <QFileInfo>
 #include <QMessageBox>
-#include <QPageRanges>
 #include <QPrinter>
 #include <QProgressDialog>
 #include <QPushButton>
@@ -39,22 +38,33 @@ QueueDialog::QueueDialog(PlugInModule &module, QPrinter &printer, const QStringL
 }
 
 host::PrintJob QueueDialog::job() const {
-  host::PrintJob job{printer()->printerName().toStdString(), {}, {}, panels_.choices()};
+  const std::string printerName = printer()->printerName().toStdString();
+  host::PrintJob job{
+      printerName.substr(0, printerName.find('/')), {}, {}, panels_.jobOptions().all()};
   for (const QString &document : documents_) job.documents.push_back(document.toStdString());
   if (!documents_.isEmpty()) job.title = QFileInfo(documents_.front()).fileName().toStdString();
-  if (const int copies = printer()->copyCount(); copies > 1)
-    job.options.push_back({"copies", std::to_string(copies)});
-  if (const QPageRanges pages = printer()->pageRanges(); !pages.isEmpty())
-    job.options.push_back({"page-ranges", pages.toString().toStdString()});
   return job;
 }
 
 void QueueDialog::done(int result) {
   if (result == Accepted) {
-    panels_.settle();
+    if (!panels_.settle() || !isAllRight()) return;
     if (!documents_.isEmpty() && !sendDocuments()) return;
   }
   QPrintDialog::done(result);
+}
+
+bool QueueDialog::isAllRight() {
+  const QStringList problems = panels_.conflicts();
+  if (problems == accepted_) return true;
+  QMessageBox box(QMessageBox::Warning, tr("Print"), problems.join("\n\n"), QMessageBox::Cancel,
+                  this);
+  box.setTextFormat(Qt::PlainText);
+  QPushButton *print = box.addButton(tr("&Print Anyway"), QMessageBox::AcceptRole);
+  box.exec();
+  if (box.clickedButton() != print) return false;
+  accepted_ = problems;
+  return true;
 }
 
 bool QueueDialog::sendDocuments() {

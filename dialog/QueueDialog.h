@@ -31,11 +31,16 @@ public:
 
   void done(int result) override;
 
+  /// Returns what the job carries that is worth telling a person.
+  std::vector<host::OptionChoice> chosenOptions() const { return panels_.jobOptions().chosen(); }
+
 private:
   bool sendDocuments();
+  bool isAllRight();
 
   PrintDialogPanels &panels_;
   QStringList documents_;
+  QStringList accepted_;  // conflicts that a person has waved through
   std::optional<int> jobId_;
 };
 

@@ -3,6 +3,9 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QShowEvent>
+#include <set>
+
+#include "platform/PanelInspector.h"
 
 namespace kwopde::dialog {
 
@@ -24,7 +27,7 @@ QLabel *heading(const std::string &text) {
 
 }  // namespace
 
-SummaryPage::SummaryPage(const PanelList &panels) : panels_(panels) {
+SummaryPage::SummaryPage(const PanelList &panels, ppd_file_t *ppd) : panels_(panels), ppd_(ppd) {
   setWindowTitle(tr("Summary"));
   setObjectName("summary");
 }
@@ -47,7 +50,12 @@ QWidget *SummaryPage::table() {
     const std::string *name = panel->panelName();
     if (row > 0) grid->setRowMinimumHeight(row++, fontMetrics().height() / 2);
     grid->addWidget(heading(name ? *name : std::string()), row++, 0, 1, 3);
+    // A number of an option that the printer lacks is in the panel's summary, and in no job.
+    std::set<std::string_view> missing;
+    for (const PanelOption &option : optionsOf(*panel))
+      if (!ppdFindOption(ppd_, option.key.c_str())) missing.insert(option.summary);
     for (const auto &[title, value] : summary->entries()) {
+      if (missing.contains(title)) continue;
       grid->addWidget(plainLabel(title + ":"), row, 1);
       grid->addWidget(plainLabel(value), row++, 2);
     }

@@ -11,8 +11,8 @@ class SummaryPage final : public Page {
   Q_OBJECT
 
 public:
-  /// `panels` is borrowed.
-  explicit SummaryPage(const PanelList &panels);
+  /// `panels`, which work on the PPD, and `ppd` are borrowed.
+  SummaryPage(const PanelList &panels, ppd_file_t *ppd);
 
 protected:
   void showEvent(QShowEvent *event) override;
@@ -21,6 +21,7 @@ private:
   QWidget *table();
 
   const PanelList &panels_;
+  ppd_file_t *ppd_;
 };
 
 }  // namespace kwopde::dialog

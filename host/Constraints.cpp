@@ -18,6 +18,12 @@ std::vector<OptionChoice> allConflicts(ppd_file_t *ppd, const ppd_option_t &opti
 
 }  // namespace
 
+std::vector<OptionChoice> allConflicts(ppd_file_t *ppd) {
+  CupsOptions conflicts;
+  conflicts.count = cupsGetConflicts(ppd, nullptr, nullptr, &conflicts.options);
+  return conflicts.others({});
+}
+
 std::vector<OptionChoice> conflictsOf(ppd_file_t *ppd, const ppd_option_t &option,
                                       const std::string &choice) {
   auto conflicts = allConflicts(ppd, option, choice);

@@ -16,6 +16,9 @@ namespace kwopde::host {
 std::vector<OptionChoice> conflictsOf(ppd_file_t *ppd, const ppd_option_t &option,
                                       const std::string &choice);
 
+/// Returns every marked choice that does not go with another one.
+std::vector<OptionChoice> allConflicts(ppd_file_t *ppd);
+
 /// Returns what to mark, besides `choice` of `option`, so that nothing conflicts any more; none
 /// when the CUPS library finds nothing. Marks nothing.
 std::optional<std::vector<OptionChoice>> resolve(ppd_file_t *ppd, const ppd_option_t &option,

@@ -2,6 +2,7 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 
@@ -53,6 +54,24 @@ std::optional<CustomLimits> customLimits(ppd_file_t *ppd, const ppd_option_t &op
     default:
       return {};
   }
+}
+
+std::optional<NumberRange> numberRange(ppd_file_t *ppd, const ppd_option_t &option) {
+  std::optional<NumberRange> range;
+  const auto include = [&](double minimum, double maximum) {
+    range = range
+                ? NumberRange{std::min(range->minimum, minimum), std::max(range->maximum, maximum)}
+                : NumberRange{minimum, maximum};
+  };
+  for (int i = 0; i < option.num_choices; ++i) {
+    const std::string_view keyword = option.choices[i].choice;
+    if (keyword == kCustom) continue;
+    const auto number = wholeNumber(keyword);
+    if (!number) return {};
+    include(*number, *number);
+  }
+  if (const auto limits = customLimits(ppd, option)) include(limits->minimum, limits->maximum);
+  return range;
 }
 
 std::optional<MarkableChoice> findMarkable(ppd_file_t *ppd, ppd_option_t &option,

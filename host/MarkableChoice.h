@@ -39,6 +39,16 @@ struct CustomLimits {
 /// types int, real or points.
 std::optional<CustomLimits> customLimits(ppd_file_t *ppd, const ppd_option_t &option);
 
+/// Two numbers and all between them that an option may take.
+struct NumberRange {
+  double minimum;
+  double maximum;
+};
+
+/// Returns the range of the numbers that `option` lists and takes as a custom value; none when it
+/// lists anything but numbers, or nothing.
+std::optional<NumberRange> numberRange(ppd_file_t *ppd, const ppd_option_t &option);
+
 /// Returns what `requested` asks to mark; none when `option` neither lists it nor takes it as a
 /// custom value. "Custom.85" asks for the custom value 85.
 std::optional<MarkableChoice> findMarkable(ppd_file_t *ppd, ppd_option_t &option,

@@ -2,7 +2,10 @@
 
 #include <cups/cups.h>
 
+#include <algorithm>
+
 #include "host/Constraints.h"
+#include "platform/PanelInspector.h"
 
 namespace kwopde::host {
 
@@ -27,14 +30,17 @@ Answer PpdSession::answer(const std::string *key, const std::string *requested) 
   if (refusesAll_) return {Reason::unwilling, {}, {}};
   const auto wanted = findMarkable(ppd_.get(), *option, *requested);
   if (!wanted) {
-    const bool isNumber = wholeNumber(*requested) && customLimits(ppd_.get(), *option);
+    const bool isNumber = wholeNumber(*requested) && numberRange(ppd_.get(), *option);
     return {isNumber ? Reason::outsideLimits : Reason::unlisted, {}, {}};
   }
 
   Answer given{Reason::granted, conflictsOf(ppd_.get(), *option, wanted->keyword()), {}};
   if (!given.conflicts.empty()) {
     const auto changes = resolve(ppd_.get(), *option, wanted->keyword());
-    if (!changes) {
+    const auto isFixed = [this](const OptionChoice &change) {
+      return fixed_.contains(change.key) && markedChoice(change.key) != change.choice;
+    };
+    if (!changes || std::any_of(changes->begin(), changes->end(), isFixed)) {
       given.reason = Reason::conflict;
       return given;
     }
@@ -42,11 +48,12 @@ Answer PpdSession::answer(const std::string *key, const std::string *requested) 
       ppd_option_t *other = ppdFindOption(ppd_.get(), otherKey.c_str());
       const auto choice = other ? findMarkable(ppd_.get(), *other, otherChoice) : std::nullopt;
       if (!choice || markedChoice(otherKey) == choice->keyword()) continue;
-      setMark(*other, *choice);
-      given.changes.push_back({other->keyword, choice->keyword()});
+      given.changes.push_back(
+          {{other->keyword, choice->keyword()}, markedChoice(otherKey).value_or("")});
+      settle(*other, *choice);
     }
   }
-  setMark(*option, *wanted);
+  settle(*option, *wanted);
   return given;
 }
 
@@ -60,11 +67,15 @@ void PpdSession::markSaved(const std::vector<OptionChoice> &saved) {
   }
 }
 
+std::vector<OptionChoice> PpdSession::conflicts() const {
+  return allConflicts(ppd_.get());
+}
+
 bool PpdSession::mark(const std::string &key, const std::string &choice) {
   ppd_option_t *option = ppdFindOption(ppd_.get(), key.c_str());
   const auto found = option ? findMarkable(ppd_.get(), *option, choice) : std::nullopt;
   if (!found) return false;
-  setMark(*option, *found);
+  settle(*option, *found);
   announce({option->keyword, found->keyword()});
   return true;
 }
@@ -77,6 +88,11 @@ void PpdSession::setMark(const ppd_option_t &option, const MarkableChoice &choic
   custom.number = choice.number;
   const std::string &text = custom.number.empty() ? custom.ownText : custom.number;
   record->text[text.copy(record->text, PPD_MAX_TEXT - 1)] = 0;
+}
+
+void PpdSession::settle(const ppd_option_t &option, const MarkableChoice &choice) {
+  setMark(option, choice);
+  settled_.insert(option.keyword);
 }
 
 void PpdSession::announce(const OptionChoice &change) {
@@ -95,18 +111,22 @@ std::optional<std::string> PpdSession::markedChoice(const std::string &key) cons
   return MarkableChoice{choice, custom == customs_.end() ? "" : custom->second.number}.keyword();
 }
 
-std::optional<CustomLimits> PpdSession::limits(const std::string &key) const {
+std::optional<NumberRange> PpdSession::range(const std::string &key) const {
   const ppd_option_t *option = ppdFindOption(ppd_.get(), key.c_str());
-  return option ? customLimits(ppd_.get(), *option) : std::nullopt;
+  return option ? numberRange(ppd_.get(), *option) : std::nullopt;
 }
 
-std::vector<OptionChoice> PpdSession::changedChoices() const {
-  std::vector<OptionChoice> changed;
+std::vector<PpdSession::Settled> PpdSession::settledChoices() const {
+  auto keys = settled_;
+  if (panels_)
+    for (const auto &panel : *panels_)
+      for (const PanelOption &option : optionsOf(*panel)) keys.insert(option.key);
+  std::vector<Settled> settled;
   ppd_.forEachOption([&](const ppd_option_t &option) {
-    const auto marked = markedChoice(option.keyword);
-    if (marked && *marked != option.defchoice) changed.push_back({option.keyword, *marked});
+    const auto marked = keys.contains(option.keyword) ? markedChoice(option.keyword) : std::nullopt;
+    if (marked) settled.push_back({option.keyword, *marked, *marked == option.defchoice});
   });
-  return changed;
+  return settled;
 }
 
 }  // namespace kwopde::host

@@ -5,6 +5,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -27,9 +28,13 @@ struct Answer {
     outsideLimits,  // nor takes the number as a custom value
     conflict,       // with `conflicts`, and nothing resolves it
   };
+  struct Change : OptionChoice {
+    std::string before;  // the choice that was marked until now
+  };
+
   Reason reason;
   std::vector<OptionChoice> conflicts;  // marked choices that the requested one does not go with
-  std::vector<OptionChoice> changes;    // what was marked instead of them
+  std::vector<Change> changes;          // what was marked instead of them
 
   bool granted() const { return reason == Reason::granted; }
 };
@@ -74,6 +79,13 @@ public:
   /// Marks what the user has saved for the printer; what the PPD does not have is passed over.
   void markSaved(const std::vector<OptionChoice> &saved);
 
+  /// Names options that somebody else has in hand, such as the tabs of a dialog: a request that
+  /// could only be granted by changing one of them is refused.
+  void setFixed(std::set<std::string> keys) { fixed_ = std::move(keys); }
+
+  /// Returns the marked choices that do not go together, as the PPD's constraints have it.
+  std::vector<OptionChoice> conflicts() const;
+
   /// Whether every request is refused from now on.
   void refuseAll(bool refuse) { refusesAll_ = refuse; }
 
@@ -89,16 +101,26 @@ public:
   /// Returns the keyword of the marked choice of `key`; none when none is marked.
   std::optional<std::string> markedChoice(const std::string &key) const;
 
-  /// Returns the limits of the option's custom value; none when it takes none.
-  std::optional<CustomLimits> limits(const std::string &key) const;
+  /// Returns the numbers between which the option's listed and custom ones lie; none when it lists
+  /// anything else, or nothing.
+  std::optional<NumberRange> range(const std::string &key) const;
 
-  /// Returns the marked choices that differ from the PPD's defaults, in the PPD's order: what a job
-  /// has to carry.
-  std::vector<OptionChoice> changedChoices() const;
+  /// A choice that somebody has seen or asked for, and that a job therefore has to carry.
+  struct Settled {
+    std::string key;
+    std::string choice;
+    bool isDefault;  // of the PPD
+  };
+
+  /// Returns the marked choices of the options that the panels show, and of those that were asked
+  /// for or changed on the way, in the PPD's order. What is only saved is not among them: a job
+  /// carries that as it is saved.
+  std::vector<Settled> settledChoices() const;
 
 private:
   Answer answer(const std::string *key, const std::string *requested);
   void setMark(const ppd_option_t &option, const MarkableChoice &choice);
+  void settle(const ppd_option_t &option, const MarkableChoice &choice);
   void announce(const OptionChoice &change);
 
   PpdFile ppd_;
@@ -106,6 +128,8 @@ private:
   bool refusesAll_ = false;
   const PanelList *panels_ = nullptr;
   std::vector<SessionObserver *> observers_;
+  std::set<std::string> settled_;  // keys of what was asked for or changed
+  std::set<std::string> fixed_;
 
   /// The choice that stands for an option's custom values. Its record shows the number that is
   /// marked, since panels read numbers from texts.

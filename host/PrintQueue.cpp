@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <ctime>
 
@@ -50,22 +51,26 @@ CupsConnection::CupsConnection()
 }
 
 PrintQueue::PrintQueue(const std::string &name) {
-  cups_dest_t *const dest =
-      cupsGetNamedDest(server_.get(), name.empty() ? nullptr : name.c_str(), nullptr);
+  const auto slash = std::min(name.find('/'), name.size());
+  const std::string queue = name.substr(0, slash);
+  const std::string instance = name.substr(std::min(slash + 1, name.size()));
+  cups_dest_t *const dest = cupsGetNamedDest(server_.get(), queue.empty() ? nullptr : queue.c_str(),
+                                             instance.empty() ? nullptr : instance.c_str());
   if (!dest)
     throw Error(name.empty() ? "there is no default printer: name one with --printer, or a PPD "
                                "file with --ppd"
                              : fmt::format("there is no printer {}: lpstat -e lists them", name));
   name_ = dest->name;
+  if (dest->instance) instance_ = dest->instance;
   for (int i = 0; i < dest->num_options; ++i)
-    savedOptions_.push_back({dest->options[i].name, dest->options[i].value});
+    options_.push_back({dest->options[i].name, dest->options[i].value});
   cupsFreeDests(1, dest);
 }
 
 std::shared_ptr<PpdSession> PrintQueue::openSession() const {
   const TemporaryPpd file(server_.get(), name_);
   auto session = std::make_shared<PpdSession>(PpdFile::open(file.path()));
-  session->markSaved(savedOptions_);
+  session->markSaved(options_);
   return session;
 }
 

@@ -198,6 +198,7 @@ std::shared_ptr<const Dictionary> PanelBase::summaryInfo() {
 
 std::vector<PanelOption> PanelBase::options() const {
   std::vector<PanelOption> options;
+  options.reserve(table_.popUps.size() + table_.values.size());
   for (const PopUpRow &row : table_.popUps)
     options.push_back({.key = row.key,
                        .kind = PanelOption::Kind::choice,
@@ -209,7 +210,8 @@ std::vector<PanelOption> PanelBase::options() const {
                                                                         : PanelOption::Kind::real,
                        .field = row.field.name,
                        .slider = row.slider.name,
-                       .action = row.action.name});
+                       .action = row.action.name,
+                       .summary = row.summaryKey});
   return options;
 }
 

@@ -20,10 +20,11 @@ struct PanelOption {
 
   std::string key;  // "sharpnessEnabled"
   Kind kind = Kind::choice;
-  std::string_view popUp = {};   // "enableFilterPopUp"; choices only
-  std::string_view field = {};   // "gammaLabel"; numbers only
-  std::string_view slider = {};  // "gammaSlider"; numbers only
-  std::string_view action = {};  // what the pop-up or the slider sends: "changeGammaOption:"
+  std::string_view popUp = {};    // "enableFilterPopUp"; choices only
+  std::string_view field = {};    // "gammaLabel"; numbers only
+  std::string_view slider = {};   // "gammaSlider"; numbers only
+  std::string_view action = {};   // what the pop-up or the slider sends: "changeGammaOption:"
+  std::string_view summary = {};  // its key in the summary; numbers only
 };
 
 /// A control that a panel's interface file is to connect.

@@ -14,10 +14,11 @@ class QPrintDialog;
 namespace kwopde {
 
 /// Shows the panels as option tabs of `dialog` for the printer that is chosen in it, and none for a
-/// printer of another driver. When the dialog is accepted, the choices that differ from the
-/// printer's defaults travel with the dialog's QPrinter as CUPS options. Call it once for a dialog,
-/// before it is shown. False when the extension's module is not installed; the dialog then stays
-/// as it was, and a warning tells why.
+/// printer of another driver. When the dialog is accepted, and before anybody hears so, what is set
+/// in the panels is handed to the dialog's QPrinter as CUPS options. Paper size, sides and all else
+/// that Qt's own tabs have stays as Qt has it. Call it before the dialog is shown; a second call
+/// changes nothing. Returns false when the extension's module is not installed; the dialog then
+/// stays as it was, and a warning tells why.
 KWOPDE_ATTACH_API bool attachPanels(QPrintDialog *dialog);
 
 }  // namespace kwopde

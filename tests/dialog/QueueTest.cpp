@@ -21,6 +21,7 @@
 #include "dialog/ModuleLoader.h"
 #include "dialog/QueueDialog.h"
 #include "host/Error.h"
+#include "host/JobOptions.h"
 #include "host/PrintJob.h"
 #include "host/PrintQueue.h"
 #include "tests/support/TemporaryFolder.h"
@@ -63,6 +64,12 @@ std::string attribute(int job, const char *name) {
     ippAttributeString(found, text, sizeof text);
   ippDelete(response);
   return text;
+}
+
+std::vector<host::OptionChoice> carried(const host::PpdSession &session) {
+  host::JobOptions job;
+  job.carry(session);
+  return job.all();
 }
 
 TEST(Queue, JobCarriesItsOptionsAndDocuments) {
@@ -144,7 +151,7 @@ TEST(Queue, ResolvedConflictsAndCustomValuesReachTheServer) {
     return session->willChangePPDOptionKeyValue(&key, &choice);
   };
   EXPECT_TRUE(ask("dust", "On") && ask("quality", "Draft") && ask("scale", "123"));
-  const auto id = host::send({"custom", "", {document("a.txt", "a")}, session->changedChoices()},
+  const auto id = host::send({"custom", "", {document("a.txt", "a")}, carried(*session)},
                              [](auto, auto) { return true; });
   EXPECT_EQ(attribute(*id, "quality"), "Draft");
   EXPECT_EQ(attribute(*id, "dust"), "");

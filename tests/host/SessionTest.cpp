@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "host/Error.h"
+#include "host/JobOptions.h"
 #include "host/PpdSession.h"
 #include "tests/support/TemporaryFolder.h"
 #include "tests/support/TestPpd.h"
@@ -29,6 +30,16 @@ std::string whyNot(const std::string &path) {
   return "opened";
 }
 
+/// What a job carries of the session, "KEY=CHOICE".
+std::vector<std::string> carried(const PpdSession &session,
+                                 const std::vector<host::OptionChoice> &saved = {}) {
+  host::JobOptions job(saved);
+  job.carry(session);
+  std::vector<std::string> list;
+  for (const auto &[key, choice] : job.all()) list.push_back(key + '=' + choice);
+  return list;
+}
+
 TEST(PpdFile, SaysWhichFileAndLineCannotBeRead) {
   EXPECT_EQ(whyNot("/nonexistent.ppd"), "/nonexistent.ppd: No such file or directory");
   EXPECT_EQ(whyNot("/etc"), "/etc: Is a directory");
@@ -48,13 +59,11 @@ TEST(PpdSession, MarksWhatIsListedAndRefusesTheRest) {
   EXPECT_FALSE(session.willChangePPDOptionKeyValue(nullptr, &listed));
   EXPECT_FALSE(session.willChangePPDOptionKeyValue(&key, nullptr));
   EXPECT_EQ(session.markedChoice(key), "100");
-  EXPECT_TRUE(session.changedChoices().empty());
+  EXPECT_TRUE(carried(session).empty());
   EXPECT_TRUE(session.willChangePPDOptionKeyValue(&key, &listed));
   session.refuseAll(true);
   EXPECT_FALSE(session.willChangePPDOptionKeyValue(&key, &listed));
-  ASSERT_EQ(session.changedChoices().size(), 1u);
-  EXPECT_EQ(session.changedChoices()[0].key, "pageScale");
-  EXPECT_EQ(session.changedChoices()[0].choice, "85");
+  EXPECT_THAT(carried(session), ElementsAre("pageScale=85"));
   EXPECT_TRUE(session.mark("mirrorImage", "Horizontal"));
   EXPECT_FALSE(session.mark("mirrorImage", "Diagonal"));
   EXPECT_EQ(session.markedChoice("nothing"), std::nullopt);

@@ -1,0 +1,82 @@
+#include "dialog/PrinterOptions.h"
+
+#include <QPageRanges>
+#include <QPrintEngine>
+#include <algorithm>
+
+namespace kwopde::dialog {
+
+namespace {
+
+/// The property of Qt's print engine that holds a list of CUPS options, key and value in turn.
+constexpr auto kCupsOptions = QPrintEngine::PrintEnginePropertyKey(0xfe00);
+
+/// What stands for nothing chosen, for options that Qt's tabs leave out in that case.
+constexpr struct {
+  const char *key;
+  const char *choice;
+} kNeutral[] = {{"copies", "1"},           {"job-hold-until", "no-hold"},
+                {"job-priority", "50"},    {"job-sheets", "none"},
+                {"number-up", "1"},        {"page-set", "all"},
+                {"outputorder", "normal"}, {"landscape", "false"}};
+
+/// How Qt, IPP and PPDs call the sides of the paper.
+constexpr struct {
+  QPrinter::DuplexMode mode;
+  const char *sides;
+  const char *duplex;
+} kSides[] = {{QPrinter::DuplexNone, "one-sided", "None"},
+              {QPrinter::DuplexShortSide, "two-sided-short-edge", "DuplexTumble"},
+              {QPrinter::DuplexLongSide, "two-sided-long-edge", "DuplexNoTumble"},
+              {QPrinter::DuplexAuto, "two-sided-long-edge", "DuplexNoTumble"}};
+
+const auto &sidesOf(const QPrinter &printer) {
+  return *std::find_if(std::begin(kSides), std::end(kSides),
+                       [&](const auto &row) { return row.mode == printer.duplex(); });
+}
+
+}  // namespace
+
+void setPrinterOptions(const QPrinter &printer, host::JobOptions &job) {
+  for (const auto &[key, choice] : kNeutral) job.setNeutral(key, choice);
+  job.set("media", printer.pageLayout().pageSize().key().toStdString());
+  job.set("sides", sidesOf(printer).sides);
+  if (printer.copyCount() > 1) {
+    job.set("copies", std::to_string(printer.copyCount()));
+    job.set("Collate", printer.collateCopies() ? "True" : "False");
+  }
+  if (printer.pageLayout().orientation() == QPageLayout::Landscape) job.set("landscape", "true");
+  if (printer.pageOrder() == QPrinter::LastPageFirst) job.set("outputorder", "reverse");
+  if (const QPageRanges pages = printer.pageRanges(); !pages.isEmpty())
+    job.set("page-ranges", pages.toString().toStdString());
+  for (const auto &[key, choice] : cupsOptions(printer))
+    if (choice.empty())
+      job.setNeutral(key, choice);
+    else
+      job.set(key, choice);
+}
+
+std::string duplexChoice(const QPrinter &printer) {
+  return sidesOf(printer).duplex;
+}
+
+std::set<std::string> optionsOfQt() {
+  return {"PageSize", "PageRegion", "Duplex", "Collate"};
+}
+
+std::vector<host::OptionChoice> cupsOptions(const QPrinter &printer) {
+  const QStringList list = printer.printEngine()->property(kCupsOptions).toStringList();
+  std::vector<host::OptionChoice> options;
+  for (qsizetype i = 0; i + 1 < list.size(); i += 2)
+    options.push_back({list[i].toStdString(), list[i + 1].toStdString()});
+  return options;
+}
+
+void setCupsOptions(QPrinter &printer, const std::vector<host::OptionChoice> &options) {
+  QStringList list;
+  for (const auto &[key, choice] : options)
+    list << QString::fromStdString(key) << QString::fromStdString(choice);
+  printer.printEngine()->setProperty(kCupsOptions, list);
+}
+
+}  // namespace kwopde::dialog

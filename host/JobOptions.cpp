@@ -1,0 +1,103 @@
+#include "host/JobOptions.h"
+
+#include <strings.h>
+
+#include <algorithm>
+#include <span>
+
+namespace kwopde::host {
+
+namespace {
+
+/// Names of one and the same setting. The CUPS library looks at one of them and not at the rest, so
+/// a job has to carry no more than one.
+constexpr std::string_view kMedia[] = {"media", "PageSize", "PageRegion"};
+constexpr std::string_view kSides[] = {"sides", "Duplex"};
+constexpr std::string_view kOrientation[] = {"landscape", "orientation-requested"};
+constexpr std::span<const std::string_view> kNames[] = {kMedia, kSides, kOrientation};
+
+/// What the queues of a server give every job unless told otherwise; no value stands for any.
+constexpr struct {
+  std::string_view key;
+  std::string_view choice;
+} kUsual[] = {{"copies", "1"},
+              {"finishings", "3"},
+              {"job-cancel-after", {}},
+              {"job-hold-until", "no-hold"},
+              {"job-priority", "50"},
+              {"job-sheets", "none"},
+              {"job-sheets", "none,none"},
+              {"number-up", "1"},
+              {"print-color-mode", {}}};
+
+bool isUsual(const OptionChoice &option) {
+  return std::any_of(std::begin(kUsual), std::end(kUsual), [&](const auto &usual) {
+    return option.key == usual.key && (usual.choice.empty() || option.choice == usual.choice);
+  });
+}
+
+/// Whether the option tells of the printer and is none of a job's.
+bool isOfThePrinter(const OptionChoice &option) {
+  return option.key.starts_with("printer-") || option.key.starts_with("marker-") ||
+         option.key == "device-uri" || option.key == "auth-info-required";
+}
+
+bool isSame(std::string_view a, std::string_view b) {
+  return a.size() == b.size() && strncasecmp(a.data(), b.data(), a.size()) == 0;
+}
+
+auto find(auto &list, std::string_view key) {
+  return std::find_if(list.begin(), list.end(),
+                      [&](const OptionChoice &option) { return isSame(option.key, key); });
+}
+
+}  // namespace
+
+JobOptions::JobOptions(const std::vector<OptionChoice> &destination) {
+  for (const OptionChoice &option : destination)
+    if (!isOfThePrinter(option)) list_.push_back({option, isUsual(option)});
+}
+
+void JobOptions::set(const std::string &key, const std::string &choice) {
+  for (const auto names : kNames) {
+    const auto isOurs = [&](std::string_view name) { return isSame(name, key); };
+    if (std::none_of(names.begin(), names.end(), isOurs)) continue;
+    std::erase_if(list_, [&](const OptionChoice &option) {
+      return !isSame(option.key, key) &&
+             std::any_of(names.begin(), names.end(),
+                         [&](std::string_view name) { return isSame(name, option.key); });
+    });
+  }
+  const auto known = find(list_, key);
+  if (known == list_.end())
+    list_.push_back({{key, choice}, false});
+  else
+    *known = {{known->key, choice}, false};
+}
+
+void JobOptions::setNeutral(const std::string &key, const std::string &choice) {
+  if (value(key)) set(key, choice);
+}
+
+void JobOptions::carry(const PpdSession &session, const std::set<std::string> &others) {
+  for (const auto &[key, choice, isDefault] : session.settledChoices())
+    if (!others.contains(key) && (!isDefault || value(key))) set(key, choice);
+}
+
+std::optional<std::string> JobOptions::value(std::string_view key) const {
+  const auto known = find(list_, key);
+  return known == list_.end() ? std::nullopt : std::optional(known->choice);
+}
+
+std::vector<OptionChoice> JobOptions::all() const {
+  return {list_.begin(), list_.end()};
+}
+
+std::vector<OptionChoice> JobOptions::chosen() const {
+  std::vector<OptionChoice> chosen;
+  std::copy_if(list_.begin(), list_.end(), std::back_inserter(chosen),
+               [](const Option &option) { return !option.isUsual; });
+  return chosen;
+}
+
+}  // namespace kwopde::host
