@@ -3,7 +3,6 @@
 #include <QComboBox>
 #include <QPrinter>
 #include <QTabWidget>
-#include <algorithm>
 
 #include "dialog/PrinterOptions.h"
 #include "host/Error.h"
@@ -23,6 +22,7 @@ void PrintDialogPanels::showPanelsOf(const QString &printer) {
   pages_.reset();
   session_.reset();
   destination_.clear();
+  opened_.clear();
   if (printer.isEmpty()) return;
   try {
     const host::PrintQueue queue(printer.toStdString());
@@ -36,6 +36,7 @@ void PrintDialogPanels::showPanelsOf(const QString &printer) {
   QList<QWidget *> tabs;
   for (Page *page : pages_->pages()) tabs.append(page);
   if (!tabs.isEmpty()) dialog_.setOptionTabs(tabs);
+  for (const auto &[key, choice, isDefault] : session_->settledChoices()) opened_[key] = choice;
   connect(pages_.get(), &PanelPages::asksFor, this, [this](QWidget *page) {
     if (auto *tabWidget = dialog_.findChild<QTabWidget *>()) tabWidget->setCurrentWidget(page);
   });
@@ -68,19 +69,18 @@ void PrintDialogPanels::learnFromQt() {
   session_->mark("PageSize", printer.pageLayout().pageSize().key().toStdString());
   session_->mark("Duplex", duplexChoice(printer));
   // What was picked among the printer's options in Qt's own Properties counts where the panels have
-  // left the option as it was.
-  const auto settled = session_->settledChoices();
+  // left the option as it was. Qt lists those too that nobody has picked.
   for (const auto &[key, choice] : cupsOptions(printer)) {
-    const bool panelHasIt = std::any_of(settled.begin(), settled.end(), [&](const auto &option) {
-      return option.key == key && !option.isDefault;
-    });
-    if (!panelHasIt) session_->mark(key, choice);
+    const auto opened = opened_.find(key);
+    const bool isPicked = opened == opened_.end() || choice != opened->second;
+    const bool isLeft = opened == opened_.end() || session_->markedChoice(key) == opened->second;
+    if (isPicked && isLeft) session_->mark(key, choice);
   }
 }
 
 host::JobOptions PrintDialogPanels::jobOptions() const {
   host::JobOptions job(destination_);
-  setPrinterOptions(*dialog_.printer(), job);
+  setPrinterOptions(dialog_, job);
   if (hasPanels()) carryPanels(job);
   return job;
 }

@@ -3,6 +3,7 @@
 
 #include <QObject>
 #include <QPrintDialog>
+#include <map>
 #include <memory>
 
 #include "dialog/PanelPages.h"
@@ -49,6 +50,7 @@ private:
   QPrintDialog &dialog_;
   std::shared_ptr<host::PpdSession> session_;    // null for a printer without panels
   std::vector<host::OptionChoice> destination_;  // what is saved for the printer
+  std::map<std::string, std::string> opened_;    // what the panels showed at first, by option
   std::unique_ptr<PanelPages> pages_;
 };
 

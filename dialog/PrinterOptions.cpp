@@ -1,5 +1,6 @@
 #include "dialog/PrinterOptions.h"
 
+#include <QDialog>
 #include <QPageRanges>
 #include <QPrintEngine>
 #include <algorithm>
@@ -11,14 +12,17 @@ namespace {
 /// The property of Qt's print engine that holds a list of CUPS options, key and value in turn.
 constexpr auto kCupsOptions = QPrintEngine::PrintEnginePropertyKey(0xfe00);
 
-/// What stands for nothing chosen, for options that Qt's tabs leave out in that case.
-constexpr struct {
+/// What stands for nothing chosen, for options that Qt's dialog leaves out in that case.
+struct Neutral {
   const char *key;
   const char *choice;
-} kNeutral[] = {{"copies", "1"},           {"job-hold-until", "no-hold"},
-                {"job-priority", "50"},    {"job-sheets", "none"},
-                {"number-up", "1"},        {"page-set", "all"},
-                {"outputorder", "normal"}, {"landscape", "false"}};
+};
+constexpr Neutral kOfTheDialog[] = {{"copies", "1"}, {"page-set", "all"}, {"outputorder", "normal"}};
+constexpr Neutral kOfProperties[] = {{"job-hold-until", "no-hold"},
+                                     {"job-priority", "50"},
+                                     {"job-sheets", "none"},
+                                     {"landscape", "false"},
+                                     {"number-up", "1"}};
 
 /// How Qt, IPP and PPDs call the sides of the paper.
 constexpr struct {
@@ -37,23 +41,38 @@ const auto &sidesOf(const QPrinter &printer) {
 
 }  // namespace
 
-void setPrinterOptions(const QPrinter &printer, host::JobOptions &job) {
-  for (const auto &[key, choice] : kNeutral) job.setNeutral(key, choice);
-  job.set("media", printer.pageLayout().pageSize().key().toStdString());
+bool hasShownProperties(const QPrintDialog &dialog) {
+  const auto dialogs = dialog.findChildren<QDialog *>();
+  return std::any_of(dialogs.begin(), dialogs.end(), [](const QDialog *child) {
+    return child->inherits("QPrintPropertiesDialog") &&
+           child->testAttribute(Qt::WA_WState_ExplicitShowHide);  // it was shown once
+  });
+}
+
+void setPrinterOptions(const QPrintDialog &dialog, host::JobOptions &job) {
+  const QPrinter &printer = *dialog.printer();
+  const auto setAll = [&](const auto &neutral, bool isSeen) {
+    for (const auto &[key, choice] : neutral)
+      if (isSeen) job.setNeutral(key, choice);
+  };
+  const bool seen = hasShownProperties(dialog);
+  setAll(kOfTheDialog, true);
+  setAll(kOfProperties, seen);
+  const bool paperIsSaved = job.value("media") || job.value("PageSize");
+  if (seen || !paperIsSaved)
+    job.set("media", printer.pageLayout().pageSize().key().toStdString());
   job.set("sides", sidesOf(printer).sides);
   if (printer.copyCount() > 1) {
     job.set("copies", std::to_string(printer.copyCount()));
     job.set("Collate", printer.collateCopies() ? "True" : "False");
   }
-  if (printer.pageLayout().orientation() == QPageLayout::Landscape) job.set("landscape", "true");
+  if (seen && printer.pageLayout().orientation() == QPageLayout::Landscape)
+    job.set("landscape", "true");
   if (printer.pageOrder() == QPrinter::LastPageFirst) job.set("outputorder", "reverse");
   if (const QPageRanges pages = printer.pageRanges(); !pages.isEmpty())
     job.set("page-ranges", pages.toString().toStdString());
   for (const auto &[key, choice] : cupsOptions(printer))
-    if (choice.empty())
-      job.setNeutral(key, choice);
-    else
-      job.set(key, choice);
+    if (!choice.empty() && (seen || key == "page-set")) job.set(key, choice);
 }
 
 std::string duplexChoice(const QPrinter &printer) {

@@ -1,6 +1,7 @@
 // What the tabs of Qt's own print dialog have set on a QPrinter, by CUPS's names.
 #pragma once
 
+#include <QPrintDialog>
 #include <QPrinter>
 #include <set>
 #include <string>
@@ -10,11 +11,12 @@
 
 namespace kwopde::dialog {
 
-/// Lets `job` carry what the tabs of Qt's dialog hold, in place of what is saved for it, named as
-/// Qt's print engine names it: paper size, sides, copies, orientation, and what is in
-/// `cupsOptions`. What the tabs show and Qt does not write down is taken as they show it: a saved
-/// "hold for ever" is gone when the tab says "Print Immediately".
-void setPrinterOptions(const QPrinter &printer, host::JobOptions &job);
+/// Lets `job` carry what `dialog`, once accepted, has set on its printer in place of what is saved:
+/// sides, copies, order and pages, and from its Properties paper size, orientation, pages per sheet
+/// and the rest, named as Qt's print engine names them. What the dialog shows as nothing chosen
+/// replaces a saved choice too. Properties that nobody has opened have shown nothing, and what is
+/// saved stands.
+void setPrinterOptions(const QPrintDialog &dialog, host::JobOptions &job);
 
 /// Returns the choice of the PPD option Duplex that is set on `printer`.
 std::string duplexChoice(const QPrinter &printer);
