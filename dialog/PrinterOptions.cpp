@@ -17,7 +17,8 @@ struct Neutral {
   const char *key;
   const char *choice;
 };
-constexpr Neutral kOfTheDialog[] = {{"copies", "1"}, {"page-set", "all"}, {"outputorder", "normal"}};
+constexpr Neutral kOfTheDialog[] = {
+    {"copies", "1"}, {"page-set", "all"}, {"outputorder", "normal"}};
 constexpr Neutral kOfProperties[] = {{"job-hold-until", "no-hold"},
                                      {"job-priority", "50"},
                                      {"job-sheets", "none"},
@@ -59,8 +60,7 @@ void setPrinterOptions(const QPrintDialog &dialog, host::JobOptions &job) {
   setAll(kOfTheDialog, true);
   setAll(kOfProperties, seen);
   const bool paperIsSaved = job.value("media") || job.value("PageSize");
-  if (seen || !paperIsSaved)
-    job.set("media", printer.pageLayout().pageSize().key().toStdString());
+  if (seen || !paperIsSaved) job.set("media", printer.pageLayout().pageSize().key().toStdString());
   job.set("sides", sidesOf(printer).sides);
   if (printer.copyCount() > 1) {
     job.set("copies", std::to_string(printer.copyCount()));

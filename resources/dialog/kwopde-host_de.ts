@@ -4,8 +4,12 @@
 <context>
     <name>kwopde::dialog::Notices</name>
     <message>
-        <source>Changed %1, to go with %2: %3.</source>
-        <translation>Geändert: %1, passend zu %2: %3.</translation>
+        <source>The job would print %1.</source>
+        <translation>Der Auftrag würde %1 drucken.</translation>
+    </message>
+    <message>
+        <source>Changed %1 from %2 to %3, to go with %4: %5.</source>
+        <translation>%1 wurde von %2 zu %3 geändert, passend zu %4: %5.</translation>
     </message>
     <message>
         <source>%1 cannot be %2 together with %3.</source>
@@ -22,6 +26,17 @@
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>kwopde::dialog::PanelPage</name>
+    <message>
+        <source>Not available</source>
+        <translation>Nicht verfügbar</translation>
+    </message>
+    <message>
+        <source>This printer does not adjust: %1.</source>
+        <translation>Dieser Drucker stellt nicht ein: %1.</translation>
     </message>
 </context>
 <context>
@@ -48,7 +63,26 @@
     </message>
 </context>
 <context>
+    <name>kwopde::dialog::PrintDialogPanels</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>This printer cannot do these together: %1.</source>
+        <translation>Zusammen kann dieser Drucker das nicht: %1.</translation>
+    </message>
+</context>
+<context>
     <name>kwopde::dialog::QueueDialog</name>
+    <message>
+        <source>Print</source>
+        <translation>Drucken</translation>
+    </message>
+    <message>
+        <source>&amp;Print Anyway</source>
+        <translation>&amp;Trotzdem drucken</translation>
+    </message>
     <message>
         <source>Sending to the printer…</source>
         <translation>Wird an den Drucker gesendet…</translation>

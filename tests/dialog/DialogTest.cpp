@@ -170,6 +170,10 @@ TEST_F(Dialog, TellsBelowThePanelWhatTheHostChangedOrRefused) {
   widget<QLineEdit>("pageScaleEdit").setText("9");
   tabs_->setCurrentIndex(1);
   EXPECT_TRUE(notice().contains("Page Scale cannot be 9: this printer takes 10 to 400."));
+  // What was told goes when one of its options is asked for again.
+  tabs_->setCurrentIndex(0);
+  QTest::keyClick(&widget<QComboBox>("printQualityPopUp"), Qt::Key_End);
+  EXPECT_EQ(notice(), "Page Scale cannot be 9: this printer takes 10 to 400.");
 }
 
 TEST_F(Dialog, ShowsThePanelsOfAnyPrinter) {
@@ -177,6 +181,14 @@ TEST_F(Dialog, ShowsThePanelsOfAnyPrinter) {
   EXPECT_FALSE(widget<QComboBox>("printQualityPopUp").isEnabled());
   EXPECT_TRUE(widget<QComboBox>("printFinishPopUp").isEnabled());
   EXPECT_EQ(tabs_->count(), 3);
+  EXPECT_EQ(widget<QComboBox>("printQualityPopUp").placeholderText(), "Not available");
+  tabs_->setCurrentIndex(1);
+  EXPECT_EQ(tabs_->currentWidget()->findChild<QLabel *>("remark")->text(),
+            "This printer does not adjust: Brightness, Contrast, Saturation, Gamma, Red, Green, "
+            "Blue.");
+  tabs_->setCurrentIndex(2);
+  for (const QLabel *label : tabs_->currentWidget()->findChildren<QLabel *>())
+    EXPECT_NE(label->text(), "Brightness:");
 
   session_ = std::make_shared<host::PpdSession>(
       host::PpdFile::open(KWOPDE_SOURCE_FOLDER "/tests/transcripts/no-panels.ppd"));

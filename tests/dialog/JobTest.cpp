@@ -1,5 +1,5 @@
-// What is set is what is printed: jobs of kwopde print, of the dialog and of an attached dialog, held
-// against those of lp(1) for the same settings, on a private server.
+// What is set is what is printed: jobs of kwopde print, of the dialog and of an attached dialog,
+// held against those of lp(1) for the same settings, on a private server.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -84,8 +84,9 @@ class Jobs : public testing::Test {
 protected:
   /// Runs lpoptions and lpadmin for what a row has saved and set on the server, and takes it back.
   void given(const std::string &saved, const std::string &serverDefaults) {
-    run("rm -f ~/.cups/lpoptions; lpadmin -x jobs; lpadmin -p jobs -E -v file:/dev/null -P "
-        KWOPDE_SOURCE_FOLDER "/resources/ppd/kwo-7032.ppd " + serverDefaults);
+    run("rm -f ~/.cups/lpoptions; lpadmin -x jobs; lpadmin -p jobs -E -v file:/dev/null "
+        "-P " KWOPDE_SOURCE_FOLDER "/resources/ppd/kwo-7032.ppd " +
+        serverDefaults);
     if (!saved.empty()) run("lpoptions " + saved);
   }
 
@@ -172,9 +173,10 @@ protected:
 
   /// Saves options that what is set in the dialog has to replace.
   void givenSaved(QPrinter &printer) {
-    given("-p jobs -o printFinish=Matte -o pageScale=85 -o sides=two-sided-long-edge "
-          "-o PageSize=8x10 -o job-sheets=standard",
-          "-o rotateImage-default=Rotate90");
+    given(
+        "-p jobs -o printFinish=Matte -o pageScale=85 -o sides=two-sided-long-edge "
+        "-o PageSize=8x10 -o job-sheets=standard",
+        "-o rotateImage-default=Rotate90");
     printer.setPrinterName("jobs");
   }
 
