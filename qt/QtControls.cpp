@@ -2,6 +2,7 @@
 
 #include <QLabel>
 #include <QLineEdit>
+#include <QLocale>
 #include <QRegularExpression>
 #include <algorithm>
 #include <cmath>
@@ -25,6 +26,24 @@ double stepsPerUnit(const QSlider &slider) {
 bool showsMnemonic(const QWidget &widget) {
   const auto *label = qobject_cast<const QLabel *>(&widget);
   return label && label->buddy();
+}
+
+/// Returns `typed` with the number that it starts with in machine text: "1.234,5 %" typed in a German
+/// session is "1234.5 %". What is no number there stays as it is.
+QString machineText(const QString &typed) {
+  static const QRegularExpression start("^\\s*[-+]?[\\d.,'\u2019\u00a0\u202f]*\\d");
+  const auto number = start.match(typed);
+  bool isNumber = false;
+  const double value = QLocale().toDouble(number.captured().trimmed(), &isNumber);
+  if (!isNumber) return typed;
+  return QString::number(value, 'f', QLocale::FloatingPointShortest) +
+         typed.mid(number.capturedEnd());
+}
+
+/// Returns `text` with the decimal point of the number that it starts with as people write it.
+QString peoplesText(QString text) {
+  static const QRegularExpression decimal("^(\\s*[-+]?\\d+)\\.(?=\\d)");
+  return text.replace(decimal, "\\1" + QLocale().decimalPoint());
 }
 
 }  // namespace
@@ -73,6 +92,7 @@ std::string QtTextField::stringValue() const {
   QString text = widget_->property("text").toString();
   // "&x" shows as an underlined x, "&&" as an ampersand.
   if (showsMnemonic(*widget_)) text.replace(QRegularExpression("&(.)"), "\\1");
+  if (qobject_cast<QLineEdit *>(widget_)) text = machineText(text);
   return text.toStdString();
 }
 
@@ -80,6 +100,7 @@ void QtTextField::setStringValue(std::string_view text) {
   if (!widget_) return;
   QString shown = fromUtf8(text);
   if (showsMnemonic(*widget_)) shown.replace('&', "&&");
+  if (qobject_cast<QLineEdit *>(widget_)) shown = peoplesText(shown);
   widget_->setProperty("text", shown);
 }
 

@@ -112,6 +112,36 @@ TEST(QtTextField, HasTheTextThatPeopleSee) {
   EXPECT_EQ(qt::QtTextField(&line).stringValue(), "&a");
 }
 
+TEST(QtTextField, HasNumbersAsPeopleWriteThem) {
+  QLineEdit line;
+  qt::QtTextField field(&line);
+  const struct {
+    QLocale locale;
+    const char *typed;
+    const char *read;
+  } rows[] = {{QLocale(QLocale::German), "1,8", "1.8"},
+              {QLocale(QLocale::German), "1.234,5 %", "1234.5 %"},
+              {QLocale(QLocale::German), "1.8", "1.8"},  // no number there, so it stays
+              {QLocale(QLocale::German), "-7", "-7"},
+              {QLocale(QLocale::German), "99999999999", "99999999999"},
+              {QLocale(QLocale::German), "%n, abc", "%n, abc"},
+              {QLocale(QLocale::English), "1,000", "1000"},
+              {QLocale::c(), "1,8", "1,8"}};
+  const QLocale before;
+  for (const auto &row : rows) {
+    QLocale::setDefault(row.locale);
+    line.setText(row.typed);
+    EXPECT_EQ(field.stringValue(), row.read) << row.typed;
+  }
+  QLocale::setDefault(QLocale(QLocale::German));
+  field.setDoubleValue(1.78);
+  EXPECT_EQ(line.text(), QString("1,78"));
+  EXPECT_EQ(field.doubleValue(), 1.78);
+  field.setStringValue("100 %");
+  EXPECT_EQ(line.text(), QString("100 %"));
+  QLocale::setDefault(before);
+}
+
 TEST(QtControls, OfWidgetsThatAreGoneDoNothing) {
   auto box = std::make_unique<QComboBox>();
   qt::QtPopUpButton popUp(box.get());
