@@ -16,13 +16,14 @@ std::optional<double> wholeNumber(std::string_view text);
 /// The keyword of the choice that stands for an option's custom values.
 inline constexpr const char *kCustom = "Custom";
 
-/// Returns "85" for the keyword "Custom.85"; none when the keyword is not of a custom value.
-std::optional<std::string_view> customNumber(std::string_view keyword);
+/// Returns "85" for the keyword "Custom.85", and "{A=1 B=2}" for itself; none when the keyword is
+/// not of a custom value.
+std::optional<std::string_view> customValue(std::string_view keyword);
 
 /// What to mark for a request.
 struct MarkableChoice {
   ppd_choice_t *choice;  // the PPD's
-  std::string number;    // the custom number; empty when the choice is listed
+  std::string custom;    // the custom value, as lp(1) takes it; empty when the choice is listed
 
   /// Returns the keyword that the CUPS library marks and a job carries: "85", "Custom.85".
   std::string keyword() const;

@@ -76,8 +76,8 @@ std::string PpdFile::textOf(const std::string &key) const {
 std::string PpdFile::textOf(const std::string &key, const std::string &choice) const {
   ppd_option_t *option = ppdFindOption(get(), key.c_str());
   const ppd_choice_t *found = option ? ppdFindChoice(option, choice.c_str()) : nullptr;
-  // A custom value is best told by its number.
-  if (const auto number = customNumber(choice)) return std::string(*number);
+  // A custom value is best told by itself.
+  if (const auto value = customValue(choice)) return std::string(*value);
   return found && *found->text ? found->text : choice;
 }
 

@@ -85,8 +85,8 @@ void PpdSession::setMark(const ppd_option_t &option, const MarkableChoice &choic
   ppd_choice_t *const record = ppdFindChoice(const_cast<ppd_option_t *>(&option), kCustom);
   if (!record) return;
   Custom &custom = customs_.try_emplace(option.keyword, Custom{record->text, {}}).first->second;
-  custom.number = choice.number;
-  const std::string &text = custom.number.empty() ? custom.ownText : custom.number;
+  custom.value = choice.custom;
+  const std::string &text = wholeNumber(custom.value) ? custom.value : custom.ownText;
   record->text[text.copy(record->text, PPD_MAX_TEXT - 1)] = 0;
 }
 
@@ -98,7 +98,7 @@ void PpdSession::settle(const ppd_option_t &option, const MarkableChoice &choice
 void PpdSession::announce(const OptionChoice &change) {
   // A panel reads a number from the keyword that it is told.
   OptionChoice told = change;
-  if (const auto number = customNumber(change.choice)) told.choice = std::string(*number);
+  if (const auto value = customValue(change.choice)) told.choice = std::string(*value);
   for (SessionObserver *observer : observers_) observer->willAnnounce(told);
   if (!panels_) return;
   for (const auto &panel : *panels_) panel->PPDOptionKeyValueDidChange(&told.key, &told.choice);
@@ -108,7 +108,7 @@ std::optional<std::string> PpdSession::markedChoice(const std::string &key) cons
   ppd_choice_t *choice = ppdFindMarkedChoice(ppd_.get(), key.c_str());
   if (!choice) return {};
   const auto custom = customs_.find(choice->option->keyword);
-  return MarkableChoice{choice, custom == customs_.end() ? "" : custom->second.number}.keyword();
+  return MarkableChoice{choice, custom == customs_.end() ? "" : custom->second.value}.keyword();
 }
 
 std::optional<NumberRange> PpdSession::range(const std::string &key) const {

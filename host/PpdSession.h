@@ -135,7 +135,7 @@ private:
   /// marked, since panels read numbers from texts.
   struct Custom {
     std::string ownText;  // the PPD's
-    std::string number;   // what is marked; empty while another choice is
+    std::string value;    // what is marked; empty while another choice is
   };
   std::map<std::string, Custom> customs_;  // by option
 };

@@ -28,8 +28,8 @@ bool showsMnemonic(const QWidget &widget) {
   return label && label->buddy();
 }
 
-/// Returns `typed` with the number that it starts with in machine text: "1.234,5 %" typed in a German
-/// session is "1234.5 %". What is no number there stays as it is.
+/// Returns `typed` with the number that it starts with in machine text: "1.234,5 %" typed in a
+/// German session is "1234.5 %". What is no number there stays as it is.
 QString machineText(const QString &typed) {
   static const QRegularExpression start("^\\s*[-+]?[\\d.,'\u2019\u00a0\u202f]*\\d");
   const auto number = start.match(typed);

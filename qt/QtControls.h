@@ -61,8 +61,8 @@ public:
   double maxValue() const override;
 };
 
-/// Whatever shows one line of text in a property "text": a line edit, a label. A line edit shows the
-/// number that its text starts with as people in Qt's default locale write it.
+/// Whatever shows one line of text in a property "text": a line edit, a label. A line edit shows
+/// the number that its text starts with as people in Qt's default locale write it.
 class QtTextField final : public QtControl<TextField, QWidget> {
 public:
   using QtControl::QtControl;

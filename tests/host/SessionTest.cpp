@@ -144,7 +144,19 @@ TEST(CustomValues, NumbersAreListedInAnySpellingOrInsideTheLimits) {
                option("gamma", "Gamma", "1", {{"1", "1"}}) +
                "*Customgamma True: \"pop\"\n*ParamCustomgamma Gamma/Gamma: 1 real 0.1 3.0\n" +
                option("width", "Width", "1", {{"1", "1"}}) +
-               "*Customwidth True: \"pop\"\n*ParamCustomwidth Width/Width: 1 points 1 72\n");
+               "*Customwidth True: \"pop\"\n*ParamCustomwidth Width/Width: 1 points 1 72\n"
+               "*VariablePaperSize: True\n*CustomPageSize True: \"pop\"\n"
+               "*ParamCustomPageSize Width: 1 points 100 1000\n"
+               "*ParamCustomPageSize Height: 2 points 100 1000\n" +
+               option("curve", "Curve", "1", {{"1", "1"}}) +
+               "*Customcurve True: \"pop\"\n*ParamCustomcurve Curve/Curve: 1 curve 0.1 5\n" +
+               option("word", "Word", "None", {{"None", "None"}}) +
+               "*Customword True: \"pop\"\n*ParamCustomword Word/Word: 1 password 3 8\n" +
+               option("code", "Code", "None", {{"None", "None"}}) +
+               "*Customcode True: \"pop\"\n*ParamCustomcode Code/Code: 1 passcode 4 4\n" +
+               option("mark", "Mark", "None", {{"None", "None"}}) +
+               "*Custommark True: \"pop\"\n*ParamCustommark Text/Text: 1 string 1 20\n"
+               "*ParamCustommark Angle/Angle: 2 int 0 359\n");
   const struct {
     const char *key;
     const char *request;
@@ -161,7 +173,22 @@ TEST(CustomValues, NumbersAreListedInAnySpellingOrInsideTheLimits) {
               {"gamma", "3.01", nullptr},
               {"width", "72", "Custom.72"},
               {"width", "nan", nullptr},
-              {"gamma", "Custom.2.5", "Custom.2.5"}};
+              {"gamma", "Custom.2.5", "Custom.2.5"},
+              {"gamma", "Custom", nullptr},
+              {"width", "Custom.1cm", "Custom.1cm"},
+              {"width", "Custom.3cm", nullptr},
+              {"PageSize", "Custom.300x500", "Custom.300x500"},
+              {"PageSize", "Custom.10x15cm", "Custom.10x15cm"},
+              {"PageSize", "Custom.3000x500", nullptr},
+              {"PageSize", "Custom.300", nullptr},
+              {"curve", "Custom.2.2", "Custom.2.2"},
+              {"word", "Custom.secret", "Custom.secret"},
+              {"word", "Custom.no", nullptr},
+              {"code", "Custom.1234", "Custom.1234"},
+              {"code", "Custom.12a4", nullptr},
+              {"mark", "{Text=draft Angle=45}", "{Text=draft Angle=45}"},
+              {"mark", "{Text=draft Angle=400}", nullptr},
+              {"mark", "{Text=draft Colour=red}", nullptr}};
   for (const auto &row : rows) {
     const std::string before = on.marked(row.key);
     EXPECT_EQ(on.request(row.key, row.request), row.marked != nullptr) << row.request;
