@@ -36,8 +36,8 @@ struct CustomLimits {
   bool integral;
 };
 
-/// Returns the limits of `option`'s one custom parameter; none when it has no such parameter of the
-/// types int, real or points.
+/// Returns the limits of `option`'s one custom parameter; none when it has none, several, or one
+/// that is no number.
 std::optional<CustomLimits> customLimits(ppd_file_t *ppd, const ppd_option_t &option);
 
 /// Two numbers and all between them that an option may take.

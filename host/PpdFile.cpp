@@ -6,6 +6,8 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
+#include <utility>
+#include <vector>
 
 #include "host/Error.h"
 #include "host/MarkableChoice.h"
@@ -41,6 +43,19 @@ void trimTexts(ppd_file_t &ppd) {
   }
 }
 
+/// Puts the texts into the user's language, but for those of numbers: panels read numbers from
+/// texts, and "1,50" is another one.
+void localize(ppd_file_t &ppd) {
+  std::vector<std::pair<ppd_choice_t *, std::string>> numbers;
+  for (ppd_option_t *option = ppdFirstOption(&ppd); option; option = ppdNextOption(&ppd))
+    for (int i = 0; i < option->num_choices; ++i)
+      if (wholeNumber(option->choices[i].choice))
+        numbers.emplace_back(&option->choices[i], option->choices[i].text);
+  ppdLocalize(&ppd);
+  for (const auto &[choice, text] : numbers)
+    choice->text[text.copy(choice->text, PPD_MAX_TEXT - 1)] = 0;
+}
+
 }  // namespace
 
 PpdFile PpdFile::open(const std::string &path) {
@@ -55,7 +70,7 @@ PpdFile PpdFile::openUntrimmed(const std::string &path) {
   if (!stream || (std::getc(stream.get()) == EOF && std::ferror(stream.get())))
     throw Error(fmt::format("{}: {}", path, std::strerror(errno)));
   if (ppd_file_t *ppd = ppdOpenFile(path.c_str())) {
-    ppdLocalize(ppd);
+    localize(*ppd);
     ppdMarkDefaults(ppd);
     return PpdFile(ppd);
   }

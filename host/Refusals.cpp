@@ -8,6 +8,7 @@ namespace {
 
 std::string listText(const PpdFile &ppd, const std::vector<OptionChoice> &choices) {
   std::vector<std::string> texts;
+  texts.reserve(choices.size());
   for (const auto &[key, choice] : choices)
     texts.push_back(fmt::format("{}: {}", ppd.textOf(key), ppd.textOf(key, choice)));
   return fmt::format("{}", fmt::join(texts, ", "));
@@ -60,6 +61,7 @@ void Refusals::willAnnounce(const OptionChoice &change) {
 
 std::vector<std::string> Refusals::sentences() const {
   std::vector<std::string> list;
+  list.reserve(sentences_.size());
   for (const auto &[key, sentence] : sentences_) list.push_back(sentence);
   return list;
 }

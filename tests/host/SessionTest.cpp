@@ -1,6 +1,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <clocale>
+
 #include "host/Error.h"
 #include "host/JobOptions.h"
 #include "host/PpdSession.h"
@@ -204,6 +206,19 @@ TEST(CustomValues, NumbersAreListedInAnySpellingOrInsideTheLimits) {
                "Custom");
   EXPECT_FALSE(on.request("scale", "900"));
   EXPECT_EQ(on.announced.last, host::Answer::Reason::outsideLimits);
+}
+
+TEST(PpdFile, TranslatesTextsButNoNumbersInGerman) {
+  ASSERT_NE(std::setlocale(LC_ALL, "de_DE.UTF-8"), nullptr);
+  SessionOn on("*cupsLanguages: \"de\"\n" +
+               option("imageGamma", "Gamma", "1.500000", {{"1.500000", "1.50"}}) +
+               option("finish", "Finish", "Matte", {{"Matte", "Matte"}}) +
+               "*de.Translation imageGamma/Gammawert: \"\"\n*de.imageGamma 1.500000/1,50: \"\"\n"
+               "*de.Translation finish/Papier: \"\"\n*de.finish Matte/Matt: \"\"\n");
+  EXPECT_EQ(on.session.ppd().textOf("imageGamma"), "Gammawert");
+  EXPECT_EQ(on.session.ppd().textOf("imageGamma", "1.500000"), "1.50");
+  EXPECT_EQ(on.session.ppd().textOf("finish", "Matte"), "Matt");
+  (void)std::setlocale(LC_ALL, "C");
 }
 
 TEST(PpdFile, TrimsTextsThatWereCutInTheMiddleOfACharacter) {
