@@ -26,6 +26,7 @@ struct Command {
 
 Command addCheckCommand(CLI::App &commandLine);
 Command addDialogCommand(CLI::App &commandLine);
+Command addOptionsCommand(CLI::App &commandLine);
 Command addPrintCommand(CLI::App &commandLine);
 Command addRunCommand(CLI::App &commandLine);
 Command addValidateCommand(CLI::App &commandLine);

@@ -25,11 +25,6 @@ namespace {
 
 using Severity = Finding::Severity;
 
-class NullSink final : public LogSink {
-public:
-  void writeLine(std::string_view) override {}
-};
-
 /// Where keywords stand in a PPD file.
 class LineIndex {
 public:
@@ -73,8 +68,7 @@ public:
   }
 
   PpdReport run() {
-    NullSink sink;
-    const host::TraceTo trace(module_, &sink);
+    const host::Untraced untraced(module_);
     host::Extension extension(module_, session_);
     if (const PanelList *panels = extension.open())
       for (const auto &panel : *panels) checkPanel(*panel);

@@ -20,4 +20,17 @@ private:
   LogSink *before_;
 };
 
+/// Lets the trace of `module` go nowhere while this lives.
+class Untraced {
+public:
+  explicit Untraced(PlugInModule &module) : trace_(module, &nowhere_) {}
+
+private:
+  class Nowhere final : public LogSink {
+    void writeLine(std::string_view) override {}
+  };
+  Nowhere nowhere_;
+  TraceTo trace_;
+};
+
 }  // namespace kwopde::host
