@@ -2,7 +2,7 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <csignal>
+#include <cstdio>
 #include <filesystem>
 #include <iostream>
 #include <memory>
@@ -12,8 +12,10 @@
 #include "app/Command.h"
 #include "app/Files.h"
 #include "app/JobReport.h"
+#include "app/Output.h"
 #include "app/TraceOption.h"
 #include "dialog/ModuleLoader.h"
+#include "host/EndingSignals.h"
 #include "host/Error.h"
 #include "host/PpdSession.h"
 #include "host/PrintJob.h"
@@ -25,8 +27,6 @@
 namespace kwopde::app {
 
 namespace {
-
-volatile std::sig_atomic_t interrupted = 0;
 
 struct PrintOptions {
   std::string printer;               // empty: the default queue
@@ -71,15 +71,17 @@ int print(const PrintOptions &options) {
   }
 
   for (const auto &change : session->changedChoices()) job.options.push_back(change);
-  std::signal(SIGINT, [](int) { interrupted = 1; });
+  // Kept to the very end of the process, so that a job that was sent is also told as sent.
+  static const auto *const ending = new host::EndingSignals;
   const bool showsProgress = isatty(STDERR_FILENO) != 0;
   const auto id = host::send(job, [&](long long sent, long long total) {
-    if (showsProgress) fmt::print(stderr, "\rsending: {} %", sent * 100 / std::max(total, 1LL));
-    return interrupted == 0;
+    if (showsProgress)
+      std::fprintf(stderr, "\rsending: %lld %%", sent * 100 / std::max(total, 1LL));
+    return !ending->wereHeard();
   });
-  if (showsProgress) fmt::print(stderr, "\n");
+  if (showsProgress) std::fputc('\n', stderr);
   if (!id) {
-    fmt::print(stderr, "kwopde: cancelled; the printer has no job\n");
+    tell("kwopde: cancelled; the printer has no job");
     return kNotDone;
   }
   printChoices(job.options);

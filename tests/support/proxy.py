@@ -24,6 +24,8 @@ class Proxy:
 
     def __enter__(self):
         self.listener = socket.create_server(("127.0.0.1", 0), backlog=512)
+        if self.rate:  # lets nobody be done long before the line is
+            self.listener.setsockopt(socket.SOL_SOCKET, socket.SO_RCVBUF, 16384)
         self.address = "127.0.0.1:%d" % self.listener.getsockname()[1]
         threading.Thread(target=self.accept, daemon=True).start()
         return self
