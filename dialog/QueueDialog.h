@@ -29,14 +29,19 @@ public:
   /// Returns the job as it was sent, or would be.
   host::PrintJob job() const;
 
+  /// Does nothing while documents are being sent, so that one accept is one job. SIGINT, SIGTERM,
+  /// SIGHUP and SIGQUIT cancel the sending, and close the dialog.
   void done(int result) override;
 
 private:
-  bool sendDocuments();
+  /// `failed`: not sent, or cancelled, and the dialog stays; `ended`: a signal ended it.
+  enum class Outcome { sent, failed, ended };
+  Outcome sendDocuments();
 
   PrintDialogPanels &panels_;
   QStringList documents_;
   std::optional<int> jobId_;
+  bool isSending_ = false;
 };
 
 }  // namespace kwopde::dialog

@@ -224,6 +224,21 @@ TEST_F(QtDialog, SendsWhatWasSet) {
   EXPECT_EQ(attribute(*dialog.jobId(), "pageScale"), "");
 }
 
+TEST_F(QtDialog, SendsOneJobForADoubleClickAndNoneAfterASignal) {
+  const auto large = QString::fromStdString(document("twice.txt", "text", 300000));
+  dialog::QueueDialog twice(dialog::loadModule(), printer_, {large});
+  QTimer::singleShot(0, &twice, [&] { twice.accept(); });
+  twice.accept();
+  ASSERT_TRUE(twice.jobId());
+  EXPECT_EQ(attribute(*twice.jobId() + 1, "job-name"), "");
+
+  dialog::QueueDialog ended(dialog::loadModule(), printer_, {large});
+  QTimer::singleShot(0, &ended, [] { raise(SIGTERM); });
+  ended.accept();
+  EXPECT_EQ(ended.result(), QDialog::Rejected);
+  EXPECT_EQ(attribute(*twice.jobId() + 1, "job-state"), "canceled");
+}
+
 TEST_F(QtDialog, StaysOpenWithItsSettingsWhenPrintingFails) {
   ASSERT_EQ(std::system("/usr/sbin/cupsreject kwo-7032"), 0);
   const std::string path = document("retried.txt", "text");
