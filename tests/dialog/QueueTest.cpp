@@ -114,6 +114,11 @@ TEST(Queue, SaysWhatIsInTheWay) {
               "/nope: No such file or directory");
   EXPECT_THAT(why([&] { host::send({"nowhere", "", {document("a.txt", "a")}, {}}, always); }),
               HasSubstr("nowhere took no job"));
+  ASSERT_EQ(std::system("/usr/sbin/lpadmin -p raw -E -v file:/dev/null 2>/dev/null"), 0);
+  EXPECT_THAT(why([] { PrintQueue("raw").openSession(); }),
+              HasSubstr("the printer raw has no PPD"));
+  ASSERT_EQ(std::system("/usr/sbin/lpadmin -p kwo-1200 -c class 2>/dev/null"), 0);
+  EXPECT_TRUE(PrintQueue("class").openSession()) << "has the panels of its first printer";
   ASSERT_EQ(std::system("/usr/sbin/cupsreject kwo-basic"), 0);
   EXPECT_THAT(why([&] { host::send({"kwo-basic", "", {document("a.txt", "a")}, {}}, always); }),
               testing::MatchesRegex("the printer kwo-basic took no job: .*not accepting jobs.*"));
