@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPrintEngine>
@@ -187,6 +188,8 @@ TEST_F(QtDialog, ShowsThePanelsOfTheChosenPrinter) {
   auto *printers = dialog.findChild<QComboBox *>("printers");
   EXPECT_EQ(tabs(dialog), QStringList({"Media", "Color", "Sharpen", "Summary"}));
   open(dialog, 2);
+  for (const QLabel *label : dialog.findChildren<QLabel *>())
+    EXPECT_EQ(label->textFormat(), Qt::PlainText) << label->text().toStdString();
   printers->setCurrentText("kwo-basic");
   EXPECT_EQ(tabs(dialog), QStringList({"Media", "Color", "Summary"}));
   printers->setCurrentIndex(printers->count() - 1);  // a PDF file
@@ -256,6 +259,7 @@ TEST_F(QtDialog, StaysOpenWithItsSettingsWhenPrintingFails) {
       auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
       if (!box) return;
       messages.append(box->text());
+      EXPECT_EQ(box->textFormat(), Qt::PlainText);
       box->button(button)->click();
     });
   };
