@@ -1,6 +1,7 @@
 #include "dialog/PrintDialogPanels.h"
 
 #include <QComboBox>
+#include <QLabel>
 #include <QPrinter>
 #include <QTabWidget>
 
@@ -12,6 +13,8 @@ namespace kwopde::dialog {
 
 PrintDialogPanels::PrintDialogPanels(PlugInModule &module, QPrintDialog &dialog)
     : QObject(&dialog), module_(module), dialog_(dialog) {
+  // Its labels show what the server says of a printer.
+  for (QLabel *label : dialog.findChildren<QLabel *>()) label->setTextFormat(Qt::PlainText);
   // The dialog tells nobody which printer is chosen, but its combo box does.
   if (auto *printers = dialog.findChild<QComboBox *>("printers"))
     connect(printers, &QComboBox::currentTextChanged, this, &PrintDialogPanels::showPanelsOf);

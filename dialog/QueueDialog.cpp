@@ -7,8 +7,10 @@
 #include <QPrinter>
 #include <QProgressDialog>
 #include <QPushButton>
+#include <QScopedValueRollback>
 #include <QTabWidget>
 
+#include "host/EndingSignals.h"
 #include "host/Error.h"
 
 namespace kwopde::dialog {
@@ -47,9 +49,18 @@ host::PrintJob QueueDialog::job() const {
 }
 
 void QueueDialog::done(int result) {
+  if (isSending_) return;  // events run meanwhile: a second click, or Return once more
   if (result == Accepted) {
+    const QScopedValueRollback<bool> sending(isSending_, true);
     if (!panels_.settle() || !isAllRight()) return;
-    if (!documents_.isEmpty() && !sendDocuments()) return;
+    if (!documents_.isEmpty()) switch (sendDocuments()) {
+        case Outcome::sent:
+          break;
+        case Outcome::failed:
+          return;
+        case Outcome::ended:
+          result = Rejected;
+      }
   }
   QPrintDialog::done(result);
 }
@@ -67,25 +78,31 @@ bool QueueDialog::isAllRight() {
   return true;
 }
 
-bool QueueDialog::sendDocuments() {
+QueueDialog::Outcome QueueDialog::sendDocuments() {
   for (;;) {
     QProgressDialog progress(tr("Sending to the printer…"), tr("Cancel"), 0, 1000, this);
     progress.setWindowModality(Qt::WindowModal);
     progress.setMinimumDuration(kPatience);
+    QMessageBox failure(QMessageBox::Warning, tr("Printing failed"), {}, QMessageBox::Close, this);
+    failure.setTextFormat(Qt::PlainText);
     try {
+      const host::EndingSignals ending;
       jobId_ = send(job(), [&](long long sent, long long total) {
         progress.setValue(static_cast<int>(sent * 999 / std::max(total, 1LL)));
         QCoreApplication::processEvents();
-        return !progress.wasCanceled();
+        return !progress.wasCanceled() && !ending.wereHeard();
       });
-      return jobId_.has_value();
+      if (jobId_) return Outcome::sent;
+      return ending.wereHeard() ? Outcome::ended : Outcome::failed;
+    } catch (const host::UnsureJobError &error) {
+      failure.setText(QString::fromStdString(error.what()));
     } catch (const host::Error &error) {
-      progress.close();
-      const auto choice =
-          QMessageBox::warning(this, tr("Printing failed"), QString::fromStdString(error.what()),
-                               QMessageBox::Retry | QMessageBox::Close, QMessageBox::Retry);
-      if (choice != QMessageBox::Retry) return false;
+      failure.setText(QString::fromStdString(error.what()));
+      failure.addButton(QMessageBox::Retry);
+      failure.setDefaultButton(QMessageBox::Retry);
     }
+    progress.close();
+    if (failure.exec() != QMessageBox::Retry) return Outcome::failed;
   }
 }
 

@@ -29,19 +29,25 @@ public:
   /// Returns the job as it was sent, or would be.
   host::PrintJob job() const;
 
+  /// Does nothing while documents are being sent, so that one accept is one job. SIGINT, SIGTERM,
+  /// SIGHUP and SIGQUIT cancel the sending, and close the dialog.
   void done(int result) override;
 
   /// Returns what the job carries that is worth telling a person.
   std::vector<host::OptionChoice> chosenOptions() const { return panels_.jobOptions().chosen(); }
 
 private:
-  bool sendDocuments();
   bool isAllRight();
+
+  /// `failed`: not sent, or cancelled, and the dialog stays; `ended`: a signal ended it.
+  enum class Outcome { sent, failed, ended };
+  Outcome sendDocuments();
 
   PrintDialogPanels &panels_;
   QStringList documents_;
   QStringList accepted_;  // conflicts that a person has waved through
   std::optional<int> jobId_;
+  bool isSending_ = false;
 };
 
 }  // namespace kwopde::dialog

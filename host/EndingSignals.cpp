@@ -11,6 +11,7 @@ volatile std::sig_atomic_t heard = 0;
 }  // namespace
 
 EndingSignals::EndingSignals() {
+  heard = 0;
   struct sigaction note{};
   note.sa_handler = [](int) { heard = 1; };
   note.sa_flags = static_cast<int>(SA_RESETHAND | SA_RESTART);

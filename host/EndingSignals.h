@@ -16,7 +16,7 @@ public:
   EndingSignals &operator=(const EndingSignals &) = delete;
   ~EndingSignals();
 
-  /// Returns whether one came while an object of this class lived.
+  /// Returns whether one came while this object lived.
   bool wereHeard() const;
 
 private:

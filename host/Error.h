@@ -18,4 +18,10 @@ public:
   using Error::Error;
 };
 
+/// A job was sent whole, but its server did not say that it took it. Retrying can print it twice.
+class UnsureJobError : public JobError {
+public:
+  using JobError::JobError;
+};
+
 }  // namespace kwopde::host

@@ -135,14 +135,14 @@ private:
   bool mayBePrinted_ = false;
 };
 
-constexpr const char *kTryAgain = "Check the printer and try again";
-
-/// Returns what somebody is to do about a job that was not sent.
-std::string advice(const ServerJob &job, bool isCancelled) {
-  if (job.mayBePrinted())
-    return "It may have been printed: look at the queue before you print it again";
-  if (isCancelled) return kTryAgain;
-  return fmt::format("Cancel its job {} if it is still in the queue, and try again", job.id());
+/// Throws the error of a job that was not sent: `what` happened, and what to do about it.
+[[noreturn]] void failWithAdvice(const std::string &what, ServerJob *job) {
+  const bool isGone = !job || job->cancel();
+  if (job && job->mayBePrinted())
+    throw UnsureJobError(what +
+                         ". It may have been printed: look at the queue before you print it again");
+  throw JobError(what + (isGone ? ". Check the printer and try again"
+                                : fmt::format(". Cancel its job {} and try again", job->id())));
 }
 
 }  // namespace
@@ -167,17 +167,13 @@ std::optional<int> send(const PrintJob &job, const SendProgress &progress) {
       if (isLast) return serverJob->id();
     }
   } catch (const JobError &error) {
-    if (isWanted) {
-      const std::string then =
-          serverJob ? advice(*serverJob, serverJob->cancel()) : std::string(kTryAgain);
-      throw JobError(fmt::format("{}. {}", error.what(), then));
-    }
+    if (isWanted) failWithAdvice(error.what(), serverJob ? &*serverJob : nullptr);
   } catch (...) {
     if (serverJob) serverJob->cancel();
     throw;
   }
   if (serverJob && !serverJob->cancel())
-    throw JobError(fmt::format(
+    throw UnsureJobError(fmt::format(
         "the printer {} did not cancel its job {}, which may have been printed: look at the queue",
         job.queue, serverJob->id()));
   return {};

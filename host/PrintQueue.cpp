@@ -22,20 +22,26 @@ std::string firstMember(CupsConnection &server, const std::string &queue) {
   return members ? ippGetString(members, 0, nullptr) : std::string();
 }
 
+/// Throws `JobError` when `server` does not answer.
+void expectAnswer(CupsConnection &server) {
+  const IppMessage question(ippNewRequest(IPP_OP_CUPS_GET_DEFAULT));
+  ippAddString(question.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
+               "printer-name");
+  server.ask(question, "/");
+}
+
 }  // namespace
 
 PrintQueue::PrintQueue(const std::string &name) {
   CupsConnection server;
-  // Asked first, since the library takes a server that does not answer for one without printers.
-  const IppMessage greeting(ippNewRequest(IPP_OP_CUPS_GET_DEFAULT));
-  ippAddString(greeting.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
-               "printer-name");
-  server.ask(greeting, "/");
+  // The library takes a server that does not answer for one without that printer.
+  expectAnswer(server);
   const auto slash = std::min(name.find('/'), name.size());
   const std::string queue = name.substr(0, slash);
   const std::string instance = name.substr(std::min(slash + 1, name.size()));
   cups_dest_t *const dest = cupsGetNamedDest(server.get(), queue.empty() ? nullptr : queue.c_str(),
                                              instance.empty() ? nullptr : instance.c_str());
+  if (!dest) expectAnswer(server);
   if (!dest)
     throw Error(name.empty() ? "there is no default printer: name one with --printer, or a PPD "
                                "file with --ppd"

@@ -7,6 +7,8 @@
 #include <utility>
 #include <vector>
 
+#include "platform/Escaped.h"
+
 namespace kwopde {
 
 namespace {
@@ -81,7 +83,10 @@ void write(const Object *self, const Marker &marker, std::string_view format,
   Format(*composed, self, marker, format);
   ScratchText line;
   appendPrintf(*line, *composed, arguments);
-  sink->writeLine(*line);
+  if (isPlain(*line)) return sink->writeLine(*line);
+  ScratchText escaped;  // a text of the PPD cannot pass for lines of ours
+  appendEscaped(*escaped, *line);
+  sink->writeLine(*escaped);
 }
 
 std::span<const PrintfArgument> spanOf(std::initializer_list<PrintfArgument> arguments) {

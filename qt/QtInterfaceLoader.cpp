@@ -1,6 +1,7 @@
 #include "qt/QtInterfaceLoader.h"
 
 #include <QFile>
+#include <QLabel>
 #include <QUiLoader>
 #include <QtDebug>
 
@@ -49,6 +50,7 @@ bool QtInterfaceLoader::loadNibNamed(std::string_view name, InterfaceOwner &owne
              qPrintable(file.fileName()));
     return false;
   }
+  for (QLabel *label : top->findChildren<QLabel *>()) label->setTextFormat(Qt::PlainText);
   for (QWidget *child : top->findChildren<QWidget *>()) connectControl(*view, child, owner);
   owner.setOutlet("pdeView", view);
   return true;

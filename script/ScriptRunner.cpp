@@ -1,7 +1,6 @@
 #include "script/ScriptRunner.h"
 
 #include <fmt/format.h>
-#include <fmt/ostream.h>
 #include <fmt/printf.h>
 
 #include <algorithm>
@@ -10,12 +9,22 @@
 #include <string>
 
 #include "host/Error.h"
+#include "platform/Escaped.h"
 #include "platform/PanelInspector.h"
 #include "script/PanelCalls.h"
 
 namespace kwopde::script {
 
 namespace {
+
+/// Writes a line, with control characters escaped.
+template <class... Arguments>
+void printLine(std::ostream &out, fmt::format_string<Arguments...> format,
+               Arguments &&...arguments) {
+  std::string line;
+  appendEscaped(line, fmt::format(format, std::forward<Arguments>(arguments)...));
+  out << line << '\n';
+}
 
 std::string nameOf(const Word &word) {
   return word.value_or("nil");
@@ -140,13 +149,13 @@ bool ScriptRunner::run(std::istream &script) {
   for (int number = 1; std::getline(script, line); ++number) {
     if (!line.empty() && line.back() == '\r') line.pop_back();
     if (isBlank(line)) continue;
-    fmt::print(out_, "> {}\n", line);
+    printLine(out_, "> {}", line);
     try {
       const std::string result = perform(splitWords(line));
-      fmt::print(out_, "= {}\n", result);
+      printLine(out_, "= {}", result);
     } catch (const host::Error &error) {
       out_.flush();
-      fmt::print(errors_, "error: {}: {}\n", number, error.what());
+      printLine(errors_, "error: {}: {}", number, error.what());
       good = false;
     }
   }
@@ -155,16 +164,16 @@ bool ScriptRunner::run(std::istream &script) {
 
 void ScriptRunner::requestWasAnswered(const std::string *key, const std::string *choice,
                                       const host::Answer &answer) {
-  fmt::print(out_, "host: {} {} {}\n", key ? *key : "nil", choice ? *choice : "nil",
-             answer.granted() ? "granted" : "refused");
+  printLine(out_, "host: {} {} {}", key ? *key : "nil", choice ? *choice : "nil",
+            answer.granted() ? "granted" : "refused");
 }
 
 void ScriptRunner::willAnnounce(const host::OptionChoice &change) {
-  fmt::print(out_, "announce: {} {}\n", change.key, change.choice);
+  printLine(out_, "announce: {} {}", change.key, change.choice);
 }
 
 void ScriptRunner::writeLine(std::string_view line) {
-  fmt::print(out_, "| {}\n", line);
+  printLine(out_, "| {}", line);
 }
 
 std::string ScriptRunner::perform(const std::vector<Word> &words) {
@@ -253,7 +262,7 @@ std::string ScriptRunner::type(const std::vector<Word> &words) {
 std::string ScriptRunner::showControls(const std::vector<Word> &words) {
   if (const PanelInspector *inspector = inspectorOf(panel(nameOf(words[1]))))
     for (const auto &[outlet, control] : inspector->controls())
-      fmt::print(out_, "{} = {}\n", outlet, stateText(control));
+      printLine(out_, "{} = {}", outlet, stateText(control));
   return "void";
 }
 
@@ -277,8 +286,7 @@ std::string ScriptRunner::showMarked(const std::vector<Word> &words) {
     for (const auto &panel : *panels())
       for (const PanelOption &option : optionsOf(*panel)) {
         if (!ppdFindOption(session_->ppdFile(), option.key.c_str())) continue;
-        fmt::print(out_, "{} = {}\n", option.key,
-                   session_->markedChoice(option.key).value_or("nil"));
+        printLine(out_, "{} = {}", option.key, session_->markedChoice(option.key).value_or("nil"));
       }
   return "void";
 }

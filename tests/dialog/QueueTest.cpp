@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPrintEngine>
@@ -110,6 +111,11 @@ TEST(Queue, SaysWhatIsInTheWay) {
               "/nope: No such file or directory");
   EXPECT_THAT(why([&] { host::send({"nowhere", "", {document("a.txt", "a")}, {}}, always); }),
               HasSubstr("nowhere took no job"));
+  ASSERT_EQ(std::system("/usr/sbin/lpadmin -p raw -E -v file:/dev/null 2>/dev/null"), 0);
+  EXPECT_THAT(why([] { PrintQueue("raw").openSession(); }),
+              HasSubstr("the printer raw has no PPD"));
+  ASSERT_EQ(std::system("/usr/sbin/lpadmin -p kwo-1200 -c class 2>/dev/null"), 0);
+  EXPECT_TRUE(PrintQueue("class").openSession()) << "has the panels of its first printer";
   ASSERT_EQ(std::system("/usr/sbin/cupsreject kwo-basic"), 0);
   EXPECT_THAT(why([&] { host::send({"kwo-basic", "", {document("a.txt", "a")}, {}}, always); }),
               testing::MatchesRegex("the printer kwo-basic took no job: .*not accepting jobs.*"));
@@ -178,6 +184,8 @@ TEST_F(QtDialog, ShowsThePanelsOfTheChosenPrinter) {
   auto *printers = dialog.findChild<QComboBox *>("printers");
   EXPECT_EQ(tabs(dialog), QStringList({"Media", "Color", "Sharpen", "Summary"}));
   open(dialog, 2);
+  for (const QLabel *label : dialog.findChildren<QLabel *>())
+    EXPECT_EQ(label->textFormat(), Qt::PlainText) << label->text().toStdString();
   printers->setCurrentText("kwo-basic");
   EXPECT_EQ(tabs(dialog), QStringList({"Media", "Color", "Summary"}));
   printers->setCurrentIndex(printers->count() - 1);  // a PDF file
@@ -220,6 +228,21 @@ TEST_F(QtDialog, SendsWhatWasSet) {
   EXPECT_EQ(attribute(*dialog.jobId(), "pageScale"), "");
 }
 
+TEST_F(QtDialog, SendsOneJobForADoubleClickAndNoneAfterASignal) {
+  const auto large = QString::fromStdString(document("twice.txt", "text", 300000));
+  dialog::QueueDialog twice(dialog::loadModule(), printer_, {large});
+  QTimer::singleShot(0, &twice, [&] { twice.accept(); });
+  twice.accept();
+  ASSERT_TRUE(twice.jobId());
+  EXPECT_EQ(attribute(*twice.jobId() + 1, "job-name"), "");
+
+  dialog::QueueDialog ended(dialog::loadModule(), printer_, {large});
+  QTimer::singleShot(0, &ended, [] { raise(SIGTERM); });
+  ended.accept();
+  EXPECT_EQ(ended.result(), QDialog::Rejected);
+  EXPECT_EQ(attribute(*twice.jobId() + 1, "job-state"), "canceled");
+}
+
 TEST_F(QtDialog, StaysOpenWithItsSettingsWhenPrintingFails) {
   ASSERT_EQ(std::system("/usr/sbin/cupsreject kwo-7032"), 0);
   const std::string path = document("retried.txt", "text");
@@ -232,6 +255,7 @@ TEST_F(QtDialog, StaysOpenWithItsSettingsWhenPrintingFails) {
       auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
       if (!box) return;
       messages.append(box->text());
+      EXPECT_EQ(box->textFormat(), Qt::PlainText);
       box->button(button)->click();
     });
   };

@@ -80,6 +80,11 @@ TEST(Trace, FillsInArguments) {
   EXPECT_EQ(expanded("%d", {std::numeric_limits<int>::min()}), "-2147483648");
 }
 
+TEST(Trace, KeepsForeignTextsOnOneLine) {
+  EXPECT_EQ(expanded("%s", {"a\nEND\r\x1B[2J\x7F\xC2\x9B|\tb\xC3\xA9\xC2\xA0"}),
+            "a\\x0AEND\\x0D\\x1B[2J\\x7F\\x9B|\tb\xC3\xA9\xC2\xA0");
+}
+
 TEST(Trace, ShowsTheAddressThatAnObjectStandsFor) {
   class StandIn final : public Object {
   public:

@@ -10,8 +10,8 @@ class Proxy:
 
     `spoil` is what happens to the connection on which byte number `at` would pass, counted over all
     connections in its direction ("up" is to the server), or the text `at` for the first time: "cut",
-    "stall", "drip" (ten bytes a second), or "flood" (answered by the proxy, with zeros without an
-    end). `rate` limits every connection, in bytes a second.
+    "gone" (cuts this and all later ones), "stall", "drip" (ten bytes a second), "zero" (four bytes
+    after the text), or "flood" (answered by the proxy, with zeros without an end). `rate` limits every connection, in bytes a second.
     """
 
     def __init__(self, spoil=None, direction="up", at=0, rate=None):
@@ -38,6 +38,9 @@ class Proxy:
         try:
             while True:
                 client = self.listener.accept()[0]
+                if self.spoilt and self.spoil == "gone":
+                    client.close()
+                    continue
                 server = socket.create_connection(self.server)
                 for way in ((client, server, "up"), (server, client, "down")):
                     threading.Thread(target=self.pump, args=way, daemon=True).start()
@@ -65,8 +68,12 @@ class Proxy:
                     target.sendall(data)
                     continue
                 target.sendall(data[:room])
-                if self.spoil == "cut":
+                if self.spoil in ("cut", "gone"):
                     break
+                if self.spoil == "zero":
+                    room += len(self.at)
+                    target.sendall(self.at + bytes(4) + data[room + 4:])
+                    continue
                 if self.spoil == "stall":
                     time.sleep(60)
                 if self.spoil == "flood":
