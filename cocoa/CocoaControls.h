@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "cocoa/NativeObject.h"
+#include "platform/ControlCache.h"
 #include "platform/Controls.h"
 
 /// What a menu item's represented object answers when it stands for an object of the core.
@@ -95,7 +96,7 @@ public:
   void disconnect(id target) const;
 
 private:
-  std::vector<std::shared_ptr<View>> controls_;
+  ControlCache controls_;
 };
 
 /// A control of the kind that fits `view`; null when it is of no kind that a panel uses.

@@ -68,13 +68,7 @@ TextField *CocoaPanelView::viewWithTag(int tag) {
 }
 
 std::shared_ptr<View> CocoaPanelView::control(NSView *view) {
-  const auto known = std::find_if(controls_.begin(), controls_.end(), [&](const auto &control) {
-    return control->nativeView() == view;
-  });
-  if (known != controls_.end()) return *known;
-  auto control = makeControl(view);
-  if (control) controls_.push_back(control);
-  return control;
+  return controls_.control(view, [&] { return makeControl(view); });
 }
 
 void CocoaPanelView::disconnect(id target) const {
@@ -82,7 +76,7 @@ void CocoaPanelView::disconnect(id target) const {
   NSAutoreleasePool *pool = [[NSAutoreleasePool alloc] init];
   disconnectBelow(view_, target);
   // A host may have moved some of them elsewhere.
-  for (const auto &control : controls_)
+  for (const auto &control : controls_.all())
     disconnectBelow(static_cast<NSView *>(control->nativeView()), target);
   [pool release];
 }

@@ -24,6 +24,7 @@ public:
     return made;
   }
 
+  const std::vector<std::shared_ptr<View>> &all() const { return controls_; }
   void clear() { controls_.clear(); }
 
 private:
