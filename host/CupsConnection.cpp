@@ -189,7 +189,7 @@ Stream CupsConnection::fetch(const std::string &resource) {
   if (httpGetState(http) != HTTP_STATE_WAITING) fail();
   if (std::fflush(file.get()) != 0)
     throw Error(fmt::format("no memory for {}: {}", resource, std::strerror(errno)));
-  std::rewind(file.get());
+  std::fseek(file.get(), 0, SEEK_SET);
   return file;
 }
 
