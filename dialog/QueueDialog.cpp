@@ -85,15 +85,13 @@ QueueDialog::Outcome QueueDialog::sendDocuments() {
     progress.setMinimumDuration(kPatience);
     QMessageBox failure(QMessageBox::Warning, tr("Printing failed"), {}, QMessageBox::Close, this);
     failure.setTextFormat(Qt::PlainText);
+    std::optional<host::EndingSignals> ending(std::in_place);
     try {
-      const host::EndingSignals ending;
       jobId_ = send(job(), [&](long long sent, long long total) {
         progress.setValue(static_cast<int>(sent * 999 / std::max(total, 1LL)));
         QCoreApplication::processEvents();
-        return !progress.wasCanceled() && !ending.wereHeard();
+        return !progress.wasCanceled() && !ending->wereHeard();
       });
-      if (jobId_) return Outcome::sent;
-      return ending.wereHeard() ? Outcome::ended : Outcome::failed;
     } catch (const host::UnsureJobError &error) {
       failure.setText(QString::fromStdString(error.what()));
     } catch (const host::Error &error) {
@@ -101,6 +99,11 @@ QueueDialog::Outcome QueueDialog::sendDocuments() {
       failure.addButton(QMessageBox::Retry);
       failure.setDefaultButton(QMessageBox::Retry);
     }
+    const bool isEnded = ending->wereHeard();
+    ending.reset();  // nothing is left to clear away while a message waits
+    if (jobId_) return Outcome::sent;
+    if (isEnded) return Outcome::ended;
+    if (failure.text().isEmpty()) return Outcome::failed;
     progress.close();
     if (failure.exec() != QMessageBox::Retry) return Outcome::failed;
   }

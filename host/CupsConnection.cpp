@@ -23,7 +23,7 @@ namespace {
 using std::chrono::steady_clock;
 using namespace std::chrono_literals;
 
-constexpr int kConnectMilliseconds = 5000;
+constexpr std::chrono::milliseconds kConnectTry = 1s;
 constexpr double kPollSeconds = 0.05;
 constexpr auto kLastWait = 400ms;
 constexpr std::size_t kMostBytes = 32 << 20;
@@ -48,14 +48,18 @@ std::string serverName() {
 }  // namespace
 
 CupsConnection::CupsConnection(std::function<bool()> goesOn)
-    : goesOn_(std::move(goesOn)),
-      seconds_(answerSeconds()),
-      http_(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
-                         kConnectMilliseconds, nullptr)) {
-  if (!http_)
-    throw JobError(
-        fmt::format("there is no CUPS server at {}: start it, or set CUPS_SERVER", serverName()));
+    : goesOn_(std::move(goesOn)), seconds_(answerSeconds()) {
   begin();
+  while (!http_) {
+    // Again and again, since a server that is busy may not have heard the first time.
+    const auto start = steady_clock::now();
+    http_.reset(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
+                             static_cast<int>(kConnectTry.count()), nullptr));
+    const bool isRefused = !http_ && steady_clock::now() - start < kConnectTry;
+    if (isRefused || (!http_ && !mayWait()))
+      throw JobError(
+          fmt::format("there is no CUPS server at {}: start it, or set CUPS_SERVER", serverName()));
+  }
   const auto onWait = [](http_t *, void *self) -> int {
     return static_cast<CupsConnection *>(self)->mayWait() ? 1 : 0;
   };
@@ -84,7 +88,7 @@ bool CupsConnection::isInTime() {
 }
 
 bool CupsConnection::reconnect() {
-  return httpReconnect2(http_.get(), kConnectMilliseconds, nullptr) == 0;
+  return httpReconnect2(http_.get(), static_cast<int>(kConnectTry.count()), nullptr) == 0;
 }
 
 bool CupsConnection::post(const IppMessage &request, const std::string &resource,

@@ -13,7 +13,7 @@ class Extension {
 public:
   /// Makes a plug-in of `module`, which must outlive this, for the PPD of `session`. It is neither
   /// initialised nor asked for panels yet.
-  Extension(PlugInModule &module, std::shared_ptr<PpdSession> session)
+  Extension(PlugInModule &module, const std::shared_ptr<PpdSession> &session)
       : Extension(module, session, *session) {}
 
   /// The same for a host object that stands before `session` and owns it.

@@ -153,10 +153,16 @@ std::optional<int> send(const PrintJob &job, const SendProgress &progress) {
   long long sent = 0;
   bool isWanted = true;
   const auto goesOn = [&] { return isWanted = isWanted && progress(sent, total); };
-  CupsConnection server(goesOn);
+  std::optional<CupsConnection> server;
+  try {
+    server.emplace(goesOn);
+  } catch (const JobError &) {
+    if (isWanted) throw;
+    return {};
+  }
   std::optional<ServerJob> serverJob;
   try {
-    serverJob.emplace(server, job);
+    serverJob.emplace(*server, job);
     for (auto &document : documents) {
       const bool isLast = &document == &documents.back();
       const bool isWhole = serverJob->sendDocument(document, isLast, [&](std::size_t size) {
