@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "app/Command.h"
+#include "app/Output.h"
 #include "check/PpdCheck.h"
 #include "dialog/ModuleLoader.h"
 #include "host/Error.h"
@@ -19,15 +20,15 @@ using check::Finding;
 using check::PpdReport;
 
 void printText(const PpdReport &report) {
-  fmt::print(
-      "{}: {}\n", report.file,
+  printLine(
+      "{}: {}", report.file,
       report.panels.empty() ? "no panels" : fmt::format("{}", fmt::join(report.panels, ", ")));
   for (const Finding &finding : report.findings) {
     const std::string where =
         finding.line > 0 ? fmt::format("{}:{}", report.file, finding.line) : report.file;
     const std::string about = finding.option.empty() ? "" : finding.option + ": ";
-    fmt::print("{}: {}: {}{}; {}\n", where, check::nameOf(finding.severity), about, finding.message,
-               finding.advice);
+    printLine("{}: {}: {}{}; {}", where, check::nameOf(finding.severity), about, finding.message,
+              finding.advice);
   }
 }
 
@@ -60,13 +61,13 @@ int check(const CheckOptions &options) {
         printText(report);
       if (!report.isClean()) status = std::max(status, kNotDone);
     } catch (const host::Error &error) {
-      fmt::print(stderr, "kwopde: {}\n", error.what());
+      tell("kwopde: {}", error.what());
       status = kBadInput;
     }
   }
   // A PPD's texts may be in no valid encoding.
   if (options.json)
-    fmt::print("{}\n", reports.dump(2, ' ', false, nlohmann::json::error_handler_t::replace));
+    writeResult(reports.dump(2, ' ', false, nlohmann::json::error_handler_t::replace) + '\n');
   return status;
 }
 

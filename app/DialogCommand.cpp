@@ -1,5 +1,3 @@
-#include <fmt/format.h>
-
 #include <QFileInfo>
 #include <QPrinter>
 #include <memory>
@@ -9,6 +7,7 @@
 #include "app/Command.h"
 #include "app/Files.h"
 #include "app/JobReport.h"
+#include "app/Output.h"
 #include "app/TraceOption.h"
 #include "dialog/ModuleLoader.h"
 #include "dialog/Pictures.h"
@@ -36,7 +35,7 @@ bool runDialog(QDialog &dialog, const std::string &snapshotFolder) {
   if (snapshotFolder.empty()) return dialog.exec() == QDialog::Accepted;
   dialog.show();
   for (const QString &file : dialog::takePictures(dialog, QString::fromStdString(snapshotFolder)))
-    fmt::print(stderr, "wrote {}\n", file.toStdString());
+    tell("wrote {}", file.toStdString());
   dialog.accept();
   return dialog.result() == QDialog::Accepted;
 }

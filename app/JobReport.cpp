@@ -1,17 +1,15 @@
 #include "app/JobReport.h"
 
-#include <fmt/format.h>
-
-#include <cstdio>
+#include "app/Output.h"
 
 namespace kwopde::app {
 
 void printChoices(const std::vector<host::OptionChoice> &choices) {
-  for (const auto &[key, choice] : choices) fmt::print("{}={}\n", key, choice);
+  for (const auto &[key, choice] : choices) printLine("{}={}", key, choice);
 }
 
 void reportSent(const host::PrintJob &job, int id) {
-  fmt::print(stderr, "sent job {}-{}\n", job.queue, id);
+  tell("sent job {}-{}", job.queue, id);
 }
 
 }  // namespace kwopde::app

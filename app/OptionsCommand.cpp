@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "app/Command.h"
+#include "app/Output.h"
 #include "dialog/ModuleLoader.h"
 #include "host/Extension.h"
 #include "host/PpdSession.h"
@@ -80,12 +81,12 @@ std::vector<Option> describeAll(const std::shared_ptr<host::PpdSession> &session
 
 void printText(const std::vector<Option> &options) {
   for (const Option &option : options) {
-    fmt::print("{}={}  {}{}\n", option.key, option.current, option.title,
-               option.current == option.usual ? "" : fmt::format(" (usually {})", option.usual));
-    if (option.range) fmt::print("    {} to {}\n", option.range->minimum, option.range->maximum);
+    printLine("{}={}  {}{}", option.key, option.current, option.title,
+              option.current == option.usual ? "" : fmt::format(" (usually {})", option.usual));
+    if (option.range) printLine("    {} to {}", option.range->minimum, option.range->maximum);
     for (const Choice &choice : option.choices)
-      fmt::print("    {}{}\n", choice.keyword,
-                 choice.text == choice.keyword ? "" : fmt::format("  {}", choice.text));
+      printLine("    {}{}", choice.keyword,
+                choice.text == choice.keyword ? "" : fmt::format("  {}", choice.text));
   }
 }
 
@@ -114,8 +115,8 @@ int listOptions(const OptionsOptions &options) {
   const auto described = describeAll(session);
   // A PPD's texts may be in no valid encoding.
   if (options.json)
-    fmt::print("{}\n",
-               toJson(described).dump(2, ' ', false, nlohmann::json::error_handler_t::replace));
+    writeResult(toJson(described).dump(2, ' ', false, nlohmann::json::error_handler_t::replace) +
+                '\n');
   else
     printText(described);
   return kDone;

@@ -3,7 +3,7 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
-#include <csignal>
+#include <cstdio>
 #include <filesystem>
 #include <iostream>
 #include <memory>
@@ -17,9 +17,11 @@
 #include "app/Command.h"
 #include "app/Files.h"
 #include "app/JobReport.h"
+#include "app/Output.h"
 #include "app/TraceOption.h"
 #include "dialog/ModuleLoader.h"
 #include "host/CupsOptions.h"
+#include "host/EndingSignals.h"
 #include "host/Error.h"
 #include "host/JobOptions.h"
 #include "host/PpdSession.h"
@@ -33,8 +35,6 @@
 namespace kwopde::app {
 
 namespace {
-
-volatile std::sig_atomic_t interrupted = 0;
 
 struct PrintOptions {
   std::string printer;               // a queue or an instance; empty: the default one
@@ -66,8 +66,7 @@ std::size_t distance(std::string_view a, std::string_view b) {
 void noteUnknown(const std::string &key, const host::PpdFile &ppd) {
   ppd.forEachOption([&](const ppd_option_t &option) {
     if (distance(key, option.keyword) <= 2)
-      fmt::print(stderr, "kwopde: note: -o {}: the printer has no such option, but {}\n", key,
-                 option.keyword);
+      tell("kwopde: note: -o {}: the printer has no such option, but {}", key, option.keyword);
   });
 }
 
@@ -101,13 +100,15 @@ bool runScript(const PrintOptions &options, const std::shared_ptr<host::PpdSessi
 
 /// Sends the job, and tells how far it is on a terminal. Returns its number; none when interrupted.
 std::optional<int> send(const host::PrintJob &job) {
-  std::signal(SIGINT, [](int) { interrupted = 1; });
+  // Kept to the very end of the process, so that a job that was sent is also told as sent.
+  static const auto *const ending = new host::EndingSignals;
   const bool showsProgress = isatty(STDERR_FILENO) != 0;
   const auto id = host::send(job, [&](long long sent, long long total) {
-    if (showsProgress) fmt::print(stderr, "\rsending: {} %", sent * 100 / std::max(total, 1LL));
-    return interrupted == 0;
+    if (showsProgress)
+      std::fprintf(stderr, "\rsending: %lld %%", sent * 100 / std::max(total, 1LL));
+    return !ending->wereHeard();
   });
-  if (showsProgress) fmt::print(stderr, "\n");
+  if (showsProgress) std::fputc('\n', stderr);
   return id;
 }
 
@@ -123,9 +124,9 @@ int print(const PrintOptions &options) {
     if (!options.pages.empty()) carried.set("page-ranges", options.pages);
     if (!options.script.empty() && !runScript(options, session)) return kNotDone;
     const auto refused = refusals.sentences();
-    for (const std::string &sentence : refused) fmt::print(stderr, "kwopde: {}\n", sentence);
+    for (const std::string &sentence : refused) tell("kwopde: {}", sentence);
     if (!refused.empty() && !options.force) {
-      fmt::print(stderr, "kwopde: nothing was printed; --force prints all the same\n");
+      tell("kwopde: nothing was printed; --force prints all the same");
       return kNotDone;
     }
   }
@@ -135,7 +136,7 @@ int print(const PrintOptions &options) {
   if (job.title.empty()) job.title = std::filesystem::path(job.documents.front()).filename();
   const auto id = send(job);
   if (!id) {
-    fmt::print(stderr, "kwopde: cancelled; the printer has no job\n");
+    tell("kwopde: cancelled; the printer has no job");
     return kNotDone;
   }
   printChoices(carried.chosen());

@@ -5,6 +5,7 @@
 #include <spdlog/sinks/stdout_sinks.h>
 #include <spdlog/sinks/syslog_sink.h>
 
+#include "app/Output.h"
 #include "host/Error.h"
 
 namespace kwopde::app {
@@ -16,6 +17,7 @@ public:
   explicit LoggerSink(spdlog::sink_ptr sink) : logger_("kwopde", std::move(sink)) {
     logger_.set_pattern("%Y-%m-%d %H:%M:%S.%e %n[%P]: %v");
     logger_.flush_on(spdlog::level::info);
+    logger_.set_error_handler([](const std::string &why) { noteLostOutput("the trace: " + why); });
   }
 
   void writeLine(std::string_view line) override {

@@ -16,6 +16,7 @@
 
 #include "app/Command.h"
 #include "app/Files.h"
+#include "app/Output.h"
 #include "check/RandomSession.h"
 #include "dialog/ModuleLoader.h"
 #include "host/Error.h"
@@ -216,26 +217,26 @@ std::vector<Result> runAllApart(ValidateOptions options) {
 
 void print(const std::vector<Result> &results, bool json) {
   if (json) {
-    fmt::print("{}\n", nlohmann::json(results).dump(2));
+    writeResult(nlohmann::json(results).dump(2) + '\n');
     return;
   }
   for (const Result &result : results) switch (result.outcome) {
       case Result::Outcome::pass:
-        fmt::print("pass  {:26} {}\n", result.name, result.promise);
+        printLine("pass  {:26} {}", result.name, result.promise);
         break;
       case Result::Outcome::fail:
-        fmt::print("FAIL  {:26} {}\n", result.name, result.what);
+        printLine("FAIL  {:26} {}", result.name, result.what);
         break;
       case Result::Outcome::none:
-        fmt::print("none  {:26} nothing of yours was checked: {}\n", result.name, result.what);
+        printLine("none  {:26} nothing of yours was checked: {}", result.name, result.what);
         break;
     }
 }
 
 void list() {
   for (const check::Check &check : check::checks())
-    fmt::print("{:26} {}\n", check.name, check.promise);
-  fmt::print("{:26} {}\n", kSessions, "random calls hold every invariant");
+    printLine("{:26} {}", check.name, check.promise);
+  printLine("{:26} {}", kSessions, "random calls hold every invariant");
 }
 
 int validate(ValidateOptions options) {
@@ -246,8 +247,7 @@ int validate(ValidateOptions options) {
   if (!options.ppd.empty()) openReadable(options.ppd);
   if (options.script) {
     try {
-      fmt::print("{}",
-                 check::randomScript(check::vocabularyOf(Bench(options).subject), options.seed));
+      writeResult(check::randomScript(check::vocabularyOf(Bench(options).subject), options.seed));
     } catch (const check::NothingToCheck &nothing) {
       throw host::Error(nothing.what());
     }

@@ -1,11 +1,9 @@
 // kwopde: the print dialog's extension, on the command line.
-#include <fmt/format.h>
-
 #include <CLI/CLI.hpp>
 #include <QApplication>
-#include <cstdio>
 
 #include "app/Command.h"
+#include "app/Output.h"
 #include "dialog/Translations.h"
 #include "host/Error.h"
 
@@ -36,9 +34,8 @@ int run(const Command &command, char **argv) {
   return command.run();
 }
 
-}  // namespace
-
-int main(int argc, char **argv) {
+/// Runs the command that the arguments name. Returns the exit status.
+int runCommand(int argc, char **argv) {
   CLI::App commandLine("Print quality, color and sharpening panels for a print dialog", "kwopde");
   commandLine.set_version_flag("--version", "kwopde " KWOPDE_VERSION);
   commandLine.require_subcommand(1);
@@ -53,10 +50,24 @@ int main(int argc, char **argv) {
   } catch (const CLI::ParseError &error) {
     return commandLine.exit(error) == 0 ? kDone : kBadInput;
   } catch (const kwopde::host::JobError &error) {
-    fmt::print(stderr, "kwopde: {}\n", error.what());
+    tell("kwopde: {}", error.what());
     return kNotDone;
   } catch (const kwopde::host::Error &error) {
-    fmt::print(stderr, "kwopde: {}\n", error.what());
+    tell("kwopde: {}", error.what());
     return kBadInput;
   }
+}
+
+}  // namespace
+
+int main(int argc, char **argv) {
+  openStandardStreams();
+  int status = kNotDone;
+  try {
+    status = runCommand(argc, argv);
+  } catch (const std::exception &error) {
+    writeMessage("kwopde: stopped by a fault of its own, or of this machine:");
+    writeMessage(error.what());
+  }
+  return finishOutput() ? status : kBadInput;
 }

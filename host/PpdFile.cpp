@@ -1,6 +1,7 @@
 #include "host/PpdFile.h"
 
 #include <fmt/format.h>
+#include <unistd.h>
 #include <utf8.h>
 
 #include <cerrno>
@@ -64,19 +65,29 @@ PpdFile PpdFile::open(const std::string &path) {
   return file;
 }
 
+PpdFile PpdFile::read(std::FILE *file, const std::string &name) {
+  PpdFile ppd = marked(ppdOpenFd(dup(fileno(file))), name);  // which closes what it is given
+  trimTexts(*ppd.get());
+  return ppd;
+}
+
 PpdFile PpdFile::openUntrimmed(const std::string &path) {
   // Opened here, since the library tells neither a folder nor a missing file from a bad one.
   const std::unique_ptr<std::FILE, CloseStream> stream(std::fopen(path.c_str(), "rb"));
   if (!stream || (std::getc(stream.get()) == EOF && std::ferror(stream.get())))
     throw Error(fmt::format("{}: {}", path, std::strerror(errno)));
-  if (ppd_file_t *ppd = ppdOpenFile(path.c_str())) {
-    localize(*ppd);
-    ppdMarkDefaults(ppd);
-    return PpdFile(ppd);
+  return marked(ppdOpenFile(path.c_str()), path);
+}
+
+PpdFile PpdFile::marked(ppd_file_t *ppd, const std::string &name) {
+  if (!ppd) {
+    int line = 0;
+    const ppd_status_t status = ppdLastError(&line);
+    throw Error(fmt::format("{}:{}: {}", name, line, ppdErrorString(status)));
   }
-  int line = 0;
-  const ppd_status_t status = ppdLastError(&line);
-  throw Error(fmt::format("{}:{}: {}", path, line, ppdErrorString(status)));
+  localize(*ppd);
+  ppdMarkDefaults(ppd);
+  return PpdFile(ppd);
 }
 
 std::string PpdFile::nickname() const {

@@ -3,6 +3,7 @@
 
 #include <cups/ppd.h>
 
+#include <cstdio>
 #include <functional>
 #include <memory>
 #include <string>
@@ -16,7 +17,10 @@ public:
   /// the file, the line and the CUPS library's reason when it cannot be read.
   static PpdFile open(const std::string &path);
 
-  /// Opens it the same way, with the texts as the file has them.
+  /// Reads it the same way from `file`, which stays the caller's. Messages call it `name`.
+  static PpdFile read(std::FILE *file, const std::string &name);
+
+  /// Opens it as `open` does, with the texts as the file has them.
   static PpdFile openUntrimmed(const std::string &path);
 
   /// Owned by this object.
@@ -37,6 +41,9 @@ private:
   struct Close {
     void operator()(ppd_file_t *ppd) const { ppdClose(ppd); }
   };
+
+  /// `ppd` as the library has opened it; null when it could not.
+  static PpdFile marked(ppd_file_t *ppd, const std::string &name);
 
   explicit PpdFile(ppd_file_t *ppd) : ppd_(ppd) {}
 

@@ -5,26 +5,22 @@
 
 #include <array>
 #include <cerrno>
+#include <chrono>
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
-#include <memory>
 
+#include "host/CupsConnection.h"
 #include "host/CupsOptions.h"
 #include "host/Error.h"
-#include "host/PrintQueue.h"
 
 namespace kwopde::host {
 
 namespace {
 
-struct CloseStream {
-  void operator()(std::FILE *stream) const { std::fclose(stream); }
-};
-
 struct Document {
   std::string name;
-  std::unique_ptr<std::FILE, CloseStream> stream;
+  Stream stream;
 };
 
 std::vector<Document> openDocuments(const std::vector<std::string> &paths, long long &total) {
@@ -42,85 +38,149 @@ std::vector<Document> openDocuments(const std::vector<std::string> &paths, long 
   return documents;
 }
 
-/// A job on the server; one that was not finished is cancelled there.
+/// Time for cancelling a job, whose sender may be waiting for it.
+constexpr auto kCancelTime = std::chrono::seconds(5);
+
+/// A job on the server, which prints it once it has the last document. Failures throw `JobError`.
 class ServerJob {
 public:
-  ServerJob(http_t *server, const PrintJob &job) : server_(server), queue_(job.queue) {
+  ServerJob(CupsConnection &server, const PrintJob &job)
+      : server_(server), queue_(job.queue), resource_("/printers/" + job.queue) {
+    const IppMessage request = requestAbout(queue_, IPP_OP_CREATE_JOB);
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", nullptr,
+                 job.title.c_str());
     CupsOptions options(job.options);
-    id_ = cupsCreateJob(server, queue_.c_str(), job.title.c_str(), options.count, options.options);
-    if (id_ == 0) fail("took no job");
-  }
-  ServerJob(const ServerJob &) = delete;
-  ServerJob &operator=(const ServerJob &) = delete;
-  ~ServerJob() {
-    if (!finished_ && id_ != 0) cancel();
+    for (const ipp_tag_t group : {IPP_TAG_OPERATION, IPP_TAG_JOB, IPP_TAG_SUBSCRIPTION})
+      cupsEncodeOptions2(request.get(), options.count, options.options, group);
+    const std::string what = "took no job";
+    const IppMessage answer = expect([&] { return server_.ask(request, resource_); }, what, what);
+    ipp_attribute_t *id = ippFindAttribute(answer.get(), "job-id", IPP_TAG_INTEGER);
+    id_ = id ? ippGetInteger(id, 0) : 0;
+    if (id_ < 1) fail(what, "its server gave the job no number");
   }
 
   int id() const { return id_; }
 
-  /// False when `progress` cancelled.
+  /// Returns whether the server has all of the documents, but did not say that it took them.
+  bool mayBePrinted() const { return mayBePrinted_; }
+
+  /// Calls `progress` after every block, with its size. Returns false when that cancelled.
   bool sendDocument(Document &document, bool isLast,
-                    const std::function<bool(long long)> &progress) {
-    if (cupsStartDocument(server_, queue_.c_str(), id_, document.name.c_str(), CUPS_FORMAT_AUTO,
-                          isLast) != HTTP_STATUS_CONTINUE)
-      fail("did not take the document " + document.name);
+                    const std::function<bool(std::size_t)> &progress) {
+    const IppMessage request = aboutThis(IPP_OP_SEND_DOCUMENT);
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "document-name", nullptr,
+                 document.name.c_str());
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_MIMETYPE, "document-format", nullptr,
+                 CUPS_FORMAT_AUTO);
+    ippAddBoolean(request.get(), IPP_TAG_OPERATION, "last-document", isLast ? 1 : 0);
+    bool taken = server_.start(request, resource_);
     std::array<char, 65536> block;
-    while (const auto size = std::fread(block.data(), 1, block.size(), document.stream.get())) {
-      if (cupsWriteRequestData(server_, block.data(), size) != HTTP_STATUS_CONTINUE)
-        fail("stopped listening");
-      if (!progress(static_cast<long long>(size))) return false;
+    while (taken) {
+      const std::size_t size = std::fread(block.data(), 1, block.size(), document.stream.get());
+      if (size == 0) break;
+      taken = server_.write(block.data(), size);
+      if (!progress(size)) return false;
     }
     if (std::ferror(document.stream.get()))
       throw Error(fmt::format("{}: {}", document.name, std::strerror(errno)));
-    if (cupsFinishDocument(server_, queue_.c_str()) > IPP_STATUS_OK_CONFLICTING)
-      fail("refused the document " + document.name);
-    finished_ = isLast;
+    const std::string broken = "did not take all of the document " + document.name;
+    mayBePrinted_ = taken && isLast;
+    expect([&] { return server_.answer(); },
+           taken ? "did not confirm the document " + document.name : broken,
+           "refused the document " + document.name);
+    mayBePrinted_ = false;
+    if (!taken) fail(broken, "its server stopped listening");
     return true;
   }
 
-private:
-  [[noreturn]] void fail(const std::string &what) {
-    std::string reason = cupsLastErrorString();
-    if (reason.ends_with('.')) reason.pop_back();
-    if (id_ != 0) cancel();
-    id_ = 0;
-    throw JobError(fmt::format("the printer {} {}: {}. Check the printer and try again", queue_,
-                               what, reason));
-  }
-
-  void cancel() {
+  /// Cancels the job on the server, unless it is done. Returns whether it was cancelled.
+  bool cancel() {
+    const auto end = std::chrono::steady_clock::now() + kCancelTime;
     // On a connection of its own: the other one may be in the middle of a document.
     try {
-      const CupsConnection server;
-      cupsCancelJob2(server.get(), queue_.c_str(), id_, 0);
+      CupsConnection server([end] { return std::chrono::steady_clock::now() < end; });
+      return faultIn(server.ask(aboutThis(IPP_OP_CANCEL_JOB), "/jobs/")).empty();
     } catch (const JobError &) {
-      // Without a server there is no job either.
+      return false;
     }
   }
 
-  http_t *server_;
+private:
+  IppMessage aboutThis(ipp_op_t operation) const {
+    IppMessage request = requestAbout(queue_, operation);
+    ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", id_);
+    return request;
+  }
+
+  template <class Ask>
+  IppMessage expect(Ask ask, const std::string &unanswered, const std::string &refused) const {
+    IppMessage answer;
+    try {
+      answer = ask();
+    } catch (const JobError &error) {
+      fail(unanswered, error.what());
+    }
+    if (const std::string fault = faultIn(answer); !fault.empty()) fail(refused, fault);
+    return answer;
+  }
+
+  [[noreturn]] void fail(const std::string &what, const std::string &why) const {
+    throw JobError(fmt::format("the printer {} {}: {}", queue_, what, why));
+  }
+
+  CupsConnection &server_;
   std::string queue_;
+  std::string resource_;
   int id_ = 0;
-  bool finished_ = false;
+  bool mayBePrinted_ = false;
 };
+
+constexpr const char *kTryAgain = "Check the printer and try again";
+
+/// Returns what somebody is to do about a job that was not sent.
+std::string advice(const ServerJob &job, bool isCancelled) {
+  if (job.mayBePrinted())
+    return "It may have been printed: look at the queue before you print it again";
+  if (isCancelled) return kTryAgain;
+  return fmt::format("Cancel its job {} if it is still in the queue, and try again", job.id());
+}
 
 }  // namespace
 
 std::optional<int> send(const PrintJob &job, const SendProgress &progress) {
   long long total = 0;
   auto documents = openDocuments(job.documents, total);
-  const CupsConnection server;
-  ServerJob serverJob(server.get(), job);
   long long sent = 0;
-  for (auto &document : documents) {
-    const bool isLast = &document == &documents.back();
-    const bool whole = serverJob.sendDocument(document, isLast, [&](long long size) {
-      sent += size;
-      return progress(sent, total);
-    });
-    if (!whole) return {};
+  bool isWanted = true;
+  const auto goesOn = [&] { return isWanted = isWanted && progress(sent, total); };
+  CupsConnection server(goesOn);
+  std::optional<ServerJob> serverJob;
+  try {
+    serverJob.emplace(server, job);
+    for (auto &document : documents) {
+      const bool isLast = &document == &documents.back();
+      const bool isWhole = serverJob->sendDocument(document, isLast, [&](std::size_t size) {
+        sent += static_cast<long long>(size);
+        return goesOn();
+      });
+      if (!isWhole) break;
+      if (isLast) return serverJob->id();
+    }
+  } catch (const JobError &error) {
+    if (isWanted) {
+      const std::string then =
+          serverJob ? advice(*serverJob, serverJob->cancel()) : std::string(kTryAgain);
+      throw JobError(fmt::format("{}. {}", error.what(), then));
+    }
+  } catch (...) {
+    if (serverJob) serverJob->cancel();
+    throw;
   }
-  return serverJob.id();
+  if (serverJob && !serverJob->cancel())
+    throw JobError(fmt::format(
+        "the printer {} did not cancel its job {}, which may have been printed: look at the queue",
+        job.queue, serverJob->id()));
+  return {};
 }
 
 }  // namespace kwopde::host

@@ -17,12 +17,15 @@ struct PrintJob {
   std::vector<OptionChoice> options;   // of the PPD, and job attributes such as "copies"
 };
 
-/// How far a job has been sent, in bytes; false cancels it.
+/// How far a job has been sent, in bytes; false cancels it. Called after every block that was
+/// taken, and about every 50 ms while the server's answer is awaited.
 using SendProgress = std::function<bool(long long sent, long long total)>;
 
-/// Sends `job` and returns its number on the server; none when `progress` cancelled it. A job that
-/// was not sent whole is cancelled on the server. Throws `Error` for a document that cannot be
-/// read, before anything is sent, and `JobError` when the server is gone or refuses the job.
+/// Sends `job` and returns its number once the server has confirmed the last document; none when
+/// `progress` cancelled it. A job that was not sent whole is cancelled on the server. Throws
+/// `Error` for a document that cannot be read, and `JobError` when the server is gone, refuses the
+/// job or does not say that it took it; the message tells whether it may have been printed all the
+/// same.
 std::optional<int> send(const PrintJob &job, const SendProgress &progress);
 
 }  // namespace kwopde::host

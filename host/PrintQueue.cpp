@@ -1,60 +1,40 @@
 #include "host/PrintQueue.h"
 
+#include <cups/cups.h>
 #include <fmt/format.h>
-#include <unistd.h>
-
 #include <algorithm>
-#include <array>
-#include <ctime>
 
+#include "host/CupsConnection.h"
 #include "host/Error.h"
 
 namespace kwopde::host {
 
 namespace {
 
-constexpr int kConnectMilliseconds = 5000;
-constexpr double kAnswerSeconds = 30;
+Stream fetchPpd(CupsConnection &server, const std::string &queue) {
+  return server.fetch("/printers/" + queue + ".ppd");
+}
 
-/// The PPD of a queue, as a file that is gone again with this object.
-class TemporaryPpd {
-public:
-  TemporaryPpd(http_t *server, const std::string &queue) {
-    std::time_t modified = 0;
-    const http_status_t status =
-        cupsGetPPD3(server, queue.c_str(), &modified, path_.data(), path_.size());
-    if (status != HTTP_STATUS_OK)
-      throw Error(
-          fmt::format("the printer {} has no PPD, so it has no panels: choose another, or "
-                      "set it up with a PPD (lpadmin -p {} -P FILE)",
-                      queue, queue));
-  }
-  TemporaryPpd(const TemporaryPpd &) = delete;
-  TemporaryPpd &operator=(const TemporaryPpd &) = delete;
-  ~TemporaryPpd() { unlink(path_.data()); }
-
-  std::string path() const { return path_.data(); }
-
-private:
-  std::array<char, 1024> path_{};  // cupsGetPPD3() cuts a longer path of a temporary file
-};
+/// The first printer of a class of printers; empty when `queue` is no class.
+std::string firstMember(CupsConnection &server, const std::string &queue) {
+  const IppMessage answer = server.ask(requestAbout(queue, IPP_OP_GET_PRINTER_ATTRIBUTES), "/");
+  ipp_attribute_t *members = ippFindAttribute(answer.get(), "member-names", IPP_TAG_NAME);
+  return members ? ippGetString(members, 0, nullptr) : std::string();
+}
 
 }  // namespace
 
-CupsConnection::CupsConnection()
-    : http_(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
-                         kConnectMilliseconds, nullptr)) {
-  if (!http_)
-    throw JobError(fmt::format("there is no CUPS server at {}:{}: start it, or set CUPS_SERVER",
-                               cupsServer(), ippPort()));
-  httpSetTimeout(http_.get(), kAnswerSeconds, nullptr, nullptr);
-}
-
 PrintQueue::PrintQueue(const std::string &name) {
+  CupsConnection server;
+  // Asked first, since the library takes a server that does not answer for one without printers.
+  const IppMessage greeting(ippNewRequest(IPP_OP_CUPS_GET_DEFAULT));
+  ippAddString(greeting.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
+               "printer-name");
+  server.ask(greeting, "/");
   const auto slash = std::min(name.find('/'), name.size());
   const std::string queue = name.substr(0, slash);
   const std::string instance = name.substr(std::min(slash + 1, name.size()));
-  cups_dest_t *const dest = cupsGetNamedDest(server_.get(), queue.empty() ? nullptr : queue.c_str(),
+  cups_dest_t *const dest = cupsGetNamedDest(server.get(), queue.empty() ? nullptr : queue.c_str(),
                                              instance.empty() ? nullptr : instance.c_str());
   if (!dest)
     throw Error(name.empty() ? "there is no default printer: name one with --printer, or a PPD "
@@ -68,8 +48,23 @@ PrintQueue::PrintQueue(const std::string &name) {
 }
 
 std::shared_ptr<PpdSession> PrintQueue::openSession() const {
-  const TemporaryPpd file(server_.get(), name_);
-  auto session = std::make_shared<PpdSession>(PpdFile::open(file.path()));
+  Stream ppd;
+  try {
+    CupsConnection server;
+    ppd = fetchPpd(server, name_);
+    if (!ppd)
+      if (const std::string member = firstMember(server, name_); !member.empty())
+        ppd = fetchPpd(server, member);
+  } catch (const JobError &error) {
+    throw JobError(fmt::format("the PPD of the printer {} did not come: {}", name_, error.what()));
+  }
+  if (!ppd)
+    throw Error(
+        fmt::format("the printer {} has no PPD, so it has no panels: choose another, or "
+                    "set it up with a PPD (lpadmin -p {} -P FILE)",
+                    name_, name_));
+  auto session = std::make_shared<PpdSession>(
+      PpdFile::read(ppd.get(), fmt::format("the PPD of the printer {}", name_)));
   session->markSaved(options_);
   return session;
 }

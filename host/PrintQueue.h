@@ -1,35 +1,19 @@
 // A printer queue of the CUPS server.
 #pragma once
 
-#include <cups/cups.h>
-
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "host/PpdSession.h"
 
 namespace kwopde::host {
 
-/// A connection to the CUPS server of the environment (CUPS_SERVER).
-class CupsConnection {
-public:
-  /// Throws `JobError` when there is no server.
-  CupsConnection();
-
-  http_t *get() const { return http_.get(); }
-
-private:
-  struct Close {
-    void operator()(http_t *http) const { httpClose(http); }
-  };
-  std::unique_ptr<http_t, Close> http_;
-};
-
 class PrintQueue {
 public:
   /// Finds the queue called `name` ("photo-printer"), an instance of it ("photo-printer/glossy"),
   /// or the user's default with an empty name. Throws `Error` when there is none, and `JobError`
-  /// without a server.
+  /// when there is no server or it does not answer.
   explicit PrintQueue(const std::string &name);
 
   /// Returns the name on the server, without an instance.
@@ -42,11 +26,10 @@ public:
   const std::vector<OptionChoice> &options() const { return options_; }
 
   /// Returns a session on the queue's PPD, with the user's saved options marked. Throws `Error`
-  /// when the queue has no PPD, or a broken one.
+  /// when the queue has no PPD, or a broken one, and `JobError` when it did not come whole.
   std::shared_ptr<PpdSession> openSession() const;
 
 private:
-  CupsConnection server_;
   std::string name_;
   std::string instance_;
   std::vector<OptionChoice> options_;

@@ -22,7 +22,7 @@
 #include "dialog/ModuleLoader.h"
 #include "dialog/PrinterOptions.h"
 #include "dialog/QueueDialog.h"
-#include "host/PrintQueue.h"
+#include "tests/support/JobAttributes.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace kwopde::test {
@@ -48,27 +48,14 @@ Output run(const std::string &command) {
   return output;
 }
 
-/// What a job carries: its attributes on the server, but for those that tell of this very job.
-Attributes attributesOf(int job) {
-  const host::CupsConnection server;
-  ipp_t *request = ippNewRequest(IPP_OP_GET_JOB_ATTRIBUTES);
-  ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "job-uri", nullptr,
-               ("ipp://localhost/jobs/" + std::to_string(job)).c_str());
-  ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr,
-               cupsUser());
-  ipp_t *response = cupsDoRequest(server.get(), request, "/");
+/// What a job carries: its attributes, but for those that tell of this very job.
+Attributes carriedBy(int job) {
   static const std::regex own(
       "(date-)?time-at-.*|job-(uuid|uri|id|name|state.*|printer-.*|more-info|k-octets.*|"
       "impressions.*|media-.*|originating-.*|preserved)|document-.*|number-of-.*|attributes-.*|"
-      "compression");
-  Attributes attributes;
-  for (auto *found = ippFirstAttribute(response); found; found = ippNextAttribute(response)) {
-    std::array<char, 512> text{};
-    ippAttributeString(found, text.data(), text.size());
-    const char *name = ippGetName(found);
-    if (name && !std::regex_match(name, own)) attributes[name] = text.data();
-  }
-  ippDelete(response);
+      "compression|printer-uri");
+  Attributes attributes = attributesOf(job);
+  std::erase_if(attributes, [](const auto &entry) { return std::regex_match(entry.first, own); });
   return attributes;
 }
 
@@ -94,7 +81,7 @@ protected:
   Attributes byLp(const std::string &words) {
     const Output lp = run("lp " + words + ' ' + document_);
     EXPECT_NE(jobIn(lp.text), 0) << lp.text;
-    return attributesOf(jobIn(lp.text));
+    return carriedBy(jobIn(lp.text));
   }
 
   TemporaryFolder folder_;
@@ -125,7 +112,7 @@ TEST_F(Jobs, OfPrintAreThoseOfLp) {
     given(row.saved, row.serverDefaults);
     const Output print = run(std::string(KWOPDE_COMMAND) + " print " + row.words + ' ' + document_);
     ASSERT_EQ(print.status, 0) << print.text;
-    EXPECT_EQ(attributesOf(jobIn(print.text)), byLp(row.words)) << row.saved << " | " << row.words;
+    EXPECT_EQ(carriedBy(jobIn(print.text)), byLp(row.words)) << row.saved << " | " << row.words;
   }
 }
 
@@ -202,7 +189,7 @@ TEST_F(DialogJobs, CarryWhatItsTabsAndPanelsShow) {
   widget<QCheckBox>(dialog, "reverse").setChecked(true);
   dialog.accept();
   ASSERT_TRUE(dialog.jobId());
-  auto job = attributesOf(*dialog.jobId());
+  const auto job = carriedBy(*dialog.jobId());
   given("", "");
   auto lp = byLp(
       "-d jobs -n 3 -o Collate=True -o PageSize=8x10 -o sides=one-sided -o outputorder=reverse "
@@ -227,7 +214,7 @@ TEST_F(DialogJobs, CarryWhatPropertiesHoldsOnceItWasOpened) {
   widget<QPushButton>(dialog, "properties").click();
   dialog.accept();
   ASSERT_TRUE(dialog.jobId());
-  auto job = attributesOf(*dialog.jobId());
+  const auto job = carriedBy(*dialog.jobId());
   given("", "-o rotateImage-default=Rotate90");
   EXPECT_EQ(job, byLp("-d jobs -o media=5x7 -o landscape -o number-up=2 -o number-up-layout=lrtb "
                       "-o job-sheets=none,none -o sides=one-sided -o printFinish=Matte "
@@ -255,7 +242,7 @@ TEST_F(DialogJobs, OfAttachedDialogsHaveThePanelsAndLeaveTheRestToQt) {
     });
     dialog.open();
     dialog.accept();
-    return attributesOf(job);
+    return carriedBy(job);
   };
   auto with = print(true);
   const auto without = print(false);
@@ -295,7 +282,7 @@ TEST_F(DialogJobs, KeepWhatIsTypedAndAskAboutWhatIsRefused) {
   EXPECT_EQ(dialog.findChild<QTabWidget *>()->currentIndex(), 2);
   dialog.accept();
   ASSERT_TRUE(dialog.jobId());
-  EXPECT_THAT(attributesOf(*dialog.jobId()), Contains(Pair("pageScale", "85")));
+  EXPECT_THAT(carriedBy(*dialog.jobId()), Contains(Pair("pageScale", "85")));
 }
 
 }  // namespace

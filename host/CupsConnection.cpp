@@ -1,0 +1,229 @@
+#include "host/CupsConnection.h"
+
+#include <fmt/format.h>
+#include <strings.h>
+#include <sys/mman.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <charconv>
+#include <cstdlib>
+#include <cstring>
+#include <string_view>
+#include <utility>
+
+#include "host/Error.h"
+
+namespace kwopde::host {
+
+namespace {
+
+using std::chrono::steady_clock;
+using namespace std::chrono_literals;
+
+constexpr int kConnectMilliseconds = 5000;
+constexpr double kPollSeconds = 0.05;
+constexpr auto kLastWait = 400ms;
+constexpr std::size_t kMostBytes = 32 << 20;
+constexpr int kMostRepeats = 3;
+
+int answerSeconds() {
+  const char *text = std::getenv("KWOPDE_TIMEOUT");
+  if (!text || !*text) return 15;
+  int seconds = 0;
+  const char *end = text + std::strlen(text);
+  const auto [rest, error] = std::from_chars(text, end, seconds);
+  if (error != std::errc() || rest != end || seconds < 1 || seconds > 3600)
+    throw Error(fmt::format("KWOPDE_TIMEOUT={}: not a number of seconds from 1 to 3600", text));
+  return seconds;
+}
+
+std::string serverName() {
+  const std::string server = cupsServer();
+  return server.starts_with('/') ? server : fmt::format("{}:{}", server, ippPort());
+}
+
+}  // namespace
+
+CupsConnection::CupsConnection(std::function<bool()> goesOn)
+    : goesOn_(std::move(goesOn)),
+      seconds_(answerSeconds()),
+      http_(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
+                         kConnectMilliseconds, nullptr)) {
+  if (!http_)
+    throw JobError(
+        fmt::format("there is no CUPS server at {}: start it, or set CUPS_SERVER", serverName()));
+  begin();
+  const auto onWait = [](http_t *, void *self) -> int {
+    return static_cast<CupsConnection *>(self)->mayWait() ? 1 : 0;
+  };
+  httpSetTimeout(http_.get(), kPollSeconds, onWait, this);
+}
+
+void CupsConnection::begin() {
+  const auto now = steady_clock::now();
+  deadline_ = stopped_ ? now + kLastWait : now + std::chrono::seconds(seconds_);
+  received_ = 0;
+  expired_ = false;
+  status_ = HTTP_STATUS_NONE;
+}
+
+bool CupsConnection::mayWait() {
+  if (!stopped_ && goesOn_ && !goesOn_()) {
+    stopped_ = true;
+    deadline_ = std::min(deadline_, steady_clock::now() + kLastWait);
+  }
+  return isInTime();
+}
+
+bool CupsConnection::isInTime() {
+  expired_ = expired_ || steady_clock::now() >= deadline_;
+  return !expired_;
+}
+
+bool CupsConnection::reconnect() {
+  return httpReconnect2(http_.get(), kConnectMilliseconds, nullptr) == 0;
+}
+
+bool CupsConnection::post(const IppMessage &request, const std::string &resource,
+                          std::size_t length) {
+  begin();
+  http_t *const http = http_.get();
+  if (strcasecmp(httpGetField(http, HTTP_FIELD_CONNECTION), "close") == 0 && !reconnect())
+    return false;
+  httpClearFields(http);
+  httpSetField(http, HTTP_FIELD_CONTENT_TYPE, "application/ipp");
+  httpSetField(http, HTTP_FIELD_AUTHORIZATION, httpGetAuthString(http));
+  httpSetLength(http, length);
+  if (httpPost(http, resource.c_str()) != 0) return false;
+  ippSetState(request.get(), IPP_STATE_IDLE);
+  ipp_state_t state = IPP_STATE_IDLE;
+  while (state != IPP_STATE_DATA && state != IPP_STATE_ERROR) state = ippWrite(http, request.get());
+  return state == IPP_STATE_DATA;
+}
+
+IppMessage CupsConnection::ask(const IppMessage &request, const std::string &resource) {
+  for (int repeats = 0;; ++repeats) {
+    if (post(request, resource, ippLength(request.get())))
+      if (IppMessage message = readAnswer()) return message;
+    if (repeats == kMostRepeats || !canRepeat("POST", resource)) fail();
+  }
+}
+
+bool CupsConnection::start(const IppMessage &request, const std::string &resource) {
+  return post(request, resource, CUPS_LENGTH_VARIABLE);
+}
+
+bool CupsConnection::write(const char *data, std::size_t size) {
+  begin();
+  return httpWrite2(http_.get(), data, size) == static_cast<ssize_t>(size);
+}
+
+IppMessage CupsConnection::answer() {
+  begin();
+  httpWrite2(http_.get(), "", 0);  // ends the data
+  if (IppMessage message = readAnswer()) return message;
+  fail();
+}
+
+void CupsConnection::readHeader() {
+  do status_ = httpUpdate(http_.get());
+  while (status_ == HTTP_STATUS_CONTINUE && isInTime());
+}
+
+IppMessage CupsConnection::readAnswer() {
+  readHeader();
+  if (status_ != HTTP_STATUS_OK) return {};
+  const auto readAll = [](void *self, ipp_uchar_t *buffer, std::size_t size) -> ssize_t {
+    std::size_t done = 0;
+    while (done < size) {
+      const auto part = static_cast<CupsConnection *>(self)->read(
+          reinterpret_cast<char *>(buffer) + done, size - done);
+      if (part <= 0) return -1;
+      done += static_cast<std::size_t>(part);
+    }
+    return static_cast<ssize_t>(done);
+  };
+  IppMessage message(ippNew());
+  if (ippReadIO(this, readAll, 1, nullptr, message.get()) != IPP_STATE_DATA) return {};
+  std::array<char, 512> rest;
+  while (httpGetState(http_.get()) != HTTP_STATE_WAITING && read(rest.data(), rest.size()) > 0) {
+  }
+  return message;
+}
+
+ssize_t CupsConnection::read(char *buffer, std::size_t size) {
+  if (!isInTime() || received_ > kMostBytes) return -1;
+  const ssize_t count = httpRead2(http_.get(), buffer, size);
+  if (count > 0) received_ += static_cast<std::size_t>(count);
+  return count;
+}
+
+bool CupsConnection::canRepeat(const char *method, const std::string &resource) {
+  if (status_ == HTTP_STATUS_UNAUTHORIZED)
+    return cupsDoAuthentication(http_.get(), method, resource.c_str()) == 0 && reconnect();
+  return status_ == HTTP_STATUS_UPGRADE_REQUIRED &&
+         httpEncryption(http_.get(), HTTP_ENCRYPTION_REQUIRED) == 0;
+}
+
+Stream CupsConnection::fetch(const std::string &resource) {
+  http_t *const http = http_.get();
+  for (int repeats = 0;; ++repeats) {
+    begin();
+    httpClearFields(http);
+    httpSetField(http, HTTP_FIELD_AUTHORIZATION, httpGetAuthString(http));
+    if (httpGet(http, resource.c_str()) == 0) readHeader();
+    if (status_ == HTTP_STATUS_OK) break;
+    if (status_ == HTTP_STATUS_NOT_FOUND) return {};
+    if (repeats == kMostRepeats || !canRepeat("GET", resource)) fail();
+  }
+  Stream file(fdopen(memfd_create("kwopde", MFD_CLOEXEC), "w+b"));
+  if (!file) throw Error(fmt::format("no memory for {}: {}", resource, std::strerror(errno)));
+  std::array<char, 16384> block;
+  ssize_t size = 0;
+  while (httpGetState(http) != HTTP_STATE_WAITING && (size = read(block.data(), block.size())) > 0)
+    std::fwrite(block.data(), 1, static_cast<std::size_t>(size), file.get());
+  // The library takes an answer for done when all that the server announced has come.
+  if (httpGetState(http) != HTTP_STATE_WAITING) fail();
+  if (std::fflush(file.get()) != 0)
+    throw Error(fmt::format("no memory for {}: {}", resource, std::strerror(errno)));
+  std::rewind(file.get());
+  return file;
+}
+
+void CupsConnection::fail() const {
+  std::string what = "closed the connection";
+  if (stopped_)
+    what = "was not waited for";
+  else if (expired_)
+    what = fmt::format("did not answer within {} s", seconds_);
+  else if (received_ > kMostBytes)
+    what = fmt::format("answered more than {} MB", kMostBytes >> 20);
+  else if (status_ >= HTTP_STATUS_BAD_REQUEST)
+    what = fmt::format("answered: {}", httpStatus(status_));
+  throw JobError(fmt::format("the CUPS server at {} {}", serverName(), what));
+}
+
+IppMessage requestAbout(const std::string &queue, ipp_op_t operation) {
+  IppMessage request(ippNewRequest(operation));
+  std::array<char, HTTP_MAX_URI> uri;
+  httpAssembleURIf(HTTP_URI_CODING_ALL, uri.data(), static_cast<int>(uri.size()), "ipp", nullptr,
+                   "localhost", 0, "/printers/%s", queue.c_str());
+  ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, uri.data());
+  ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr,
+               cupsUser());
+  return request;
+}
+
+std::string faultIn(const IppMessage &answer) {
+  const ipp_status_t status = ippGetStatusCode(answer.get());
+  if (status <= IPP_STATUS_OK_EVENTS_COMPLETE) return {};
+  ipp_attribute_t *message = ippFindAttribute(answer.get(), "status-message", IPP_TAG_TEXT);
+  std::string text = message ? ippGetString(message, 0, nullptr) : ippErrorString(status);
+  if (text.ends_with('.')) text.pop_back();
+  return text;
+}
+
+}  // namespace kwopde::host
