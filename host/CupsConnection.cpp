@@ -187,9 +187,8 @@ Stream CupsConnection::fetch(const std::string &resource) {
     std::fwrite(block.data(), 1, static_cast<std::size_t>(size), file.get());
   // The library takes an answer for done when all that the server announced has come.
   if (httpGetState(http) != HTTP_STATE_WAITING) fail();
-  if (std::fflush(file.get()) != 0)
+  if (std::fflush(file.get()) != 0 || std::fseek(file.get(), 0, SEEK_SET) != 0)
     throw Error(fmt::format("no memory for {}: {}", resource, std::strerror(errno)));
-  std::rewind(file.get());
   return file;
 }
 
