@@ -17,7 +17,6 @@ public:
   Medians() : ConsoleReporter(OO_None) {}
   void ReportRuns(const std::vector<Run> &runs) override {
     for (const Run &run : runs) {
-      if (run.error_occurred) continue;
       const std::string name = run.run_name.str();
       if (run.aggregate_name != "median") continue;
       times_[name] = run.GetAdjustedRealTime();

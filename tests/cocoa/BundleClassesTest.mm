@@ -1,5 +1,5 @@
 // The bundle's objects: what they retain and own, what they answer, and what the trace calls them.
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>  // Objective-C++ of GCC 14 stumbles over gmock.h
 #include <objc/runtime.h>
 
 #include "tests/cocoa/CocoaFixture.h"

@@ -1,5 +1,5 @@
 // The trace as it reaches the system log; NSLog writes to standard error here.
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>  // Objective-C++ of GCC 14 stumbles over gmock.h
 
 #include <cstring>
 

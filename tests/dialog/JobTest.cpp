@@ -71,7 +71,8 @@ class Jobs : public testing::Test {
 protected:
   /// Runs lpoptions and lpadmin for what a row has saved and set on the server, and takes it back.
   void given(const std::string &saved, const std::string &serverDefaults) {
-    run("rm -f ~/.cups/lpoptions; lpadmin -x jobs; lpadmin -p jobs -E -v file:/dev/null "
+    run("rm -f ~/.cups/lpoptions $CUPS_SERVERROOT/lpoptions; lpadmin -x jobs; lpadmin -p jobs -E "
+        "-v file:/dev/null "
         "-P " KWOPDE_SOURCE_FOLDER "/resources/ppd/kwo-7032.ppd " +
         serverDefaults);
     if (!saved.empty()) run("lpoptions " + saved);
