@@ -3,6 +3,7 @@
 #include <QDialog>
 #include <QPageRanges>
 #include <QPrintEngine>
+#include <QWindow>
 #include <algorithm>
 
 namespace kwopde::dialog {
@@ -45,8 +46,7 @@ const auto &sidesOf(const QPrinter &printer) {
 bool hasShownProperties(const QPrintDialog &dialog) {
   const auto dialogs = dialog.findChildren<QDialog *>();
   return std::any_of(dialogs.begin(), dialogs.end(), [](const QDialog *child) {
-    return child->inherits("QPrintPropertiesDialog") &&
-           child->testAttribute(Qt::WA_WState_ExplicitShowHide);  // it was shown once
+    return child->inherits("QPrintPropertiesDialog") && child->windowHandle();  // it was shown once
   });
 }
 

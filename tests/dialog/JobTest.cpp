@@ -230,6 +230,9 @@ TEST_F(DialogJobs, OfAttachedDialogsHaveThePanelsAndLeaveTheRestToQt) {
     if (withPanels) {
       EXPECT_TRUE(attachPanels(&dialog));
       EXPECT_TRUE(attachPanels(&dialog));  // which changes nothing
+    }
+    dialog.open();
+    if (withPanels) {
       setPanels(dialog);
       EXPECT_EQ(widget<QTabWidget>(dialog, "tabs").count(), 2 + 4);
     }
@@ -241,7 +244,6 @@ TEST_F(DialogJobs, OfAttachedDialogsHaveThePanelsAndLeaveTheRestToQt) {
       painter.end();
       job = jobIn("id is " + run("lpstat -W all -o jobs | tail -1 | cut -d' ' -f1").text);
     });
-    dialog.open();
     dialog.accept();
     return carriedBy(job);
   };
