@@ -15,8 +15,8 @@
 #include "dialog/QueueDialog.h"
 #include "host/JobOptions.h"
 #include "host/PpdSession.h"
-#include "host/PrintQueue.h"
 #include "host/TraceTo.h"
+#include "queue/PrintQueue.h"
 
 namespace kwopde::app {
 

@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "host/PrintJob.h"
+#include "queue/PrintJob.h"
 
 namespace kwopde::app {
 

@@ -11,9 +11,9 @@
 #include "dialog/ModuleLoader.h"
 #include "host/Extension.h"
 #include "host/PpdSession.h"
-#include "host/PrintQueue.h"
 #include "host/TraceTo.h"
 #include "platform/PanelInspector.h"
+#include "queue/PrintQueue.h"
 
 namespace kwopde::app {
 

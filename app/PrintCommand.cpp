@@ -21,15 +21,15 @@
 #include "app/TraceOption.h"
 #include "dialog/ModuleLoader.h"
 #include "host/CupsOptions.h"
-#include "host/EndingSignals.h"
 #include "host/Error.h"
 #include "host/JobOptions.h"
 #include "host/PpdSession.h"
-#include "host/PrintJob.h"
-#include "host/PrintQueue.h"
 #include "host/Refusals.h"
 #include "host/TraceTo.h"
 #include "qt/QtUserInput.h"
+#include "queue/EndingSignals.h"
+#include "queue/PrintJob.h"
+#include "queue/PrintQueue.h"
 #include "script/ScriptRunner.h"
 
 namespace kwopde::app {

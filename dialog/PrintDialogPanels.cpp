@@ -7,7 +7,7 @@
 
 #include "dialog/PrinterOptions.h"
 #include "host/Error.h"
-#include "host/PrintQueue.h"
+#include "queue/PrintQueue.h"
 
 namespace kwopde::dialog {
 

@@ -10,8 +10,8 @@
 #include <QScopedValueRollback>
 #include <QTabWidget>
 
-#include "host/EndingSignals.h"
 #include "host/Error.h"
+#include "queue/EndingSignals.h"
 
 namespace kwopde::dialog {
 

@@ -6,7 +6,7 @@
 #include <optional>
 
 #include "dialog/PrintDialogPanels.h"
-#include "host/PrintJob.h"
+#include "queue/PrintJob.h"
 
 namespace kwopde::dialog {
 

@@ -1,11 +1,11 @@
-#include "host/PrintQueue.h"
+#include "queue/PrintQueue.h"
 
 #include <cups/cups.h>
 #include <fmt/format.h>
 #include <algorithm>
 
-#include "host/CupsConnection.h"
 #include "host/Error.h"
+#include "queue/CupsConnection.h"
 
 namespace kwopde::host {
 

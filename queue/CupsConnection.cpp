@@ -1,4 +1,4 @@
-#include "host/CupsConnection.h"
+#include "queue/CupsConnection.h"
 
 #include <fmt/format.h>
 #include <strings.h>

@@ -1,4 +1,4 @@
-#include "host/EndingSignals.h"
+#include "queue/EndingSignals.h"
 
 namespace kwopde::host {
 

@@ -1,4 +1,4 @@
-#include "host/PrintJob.h"
+#include "queue/PrintJob.h"
 
 #include <cups/cups.h>
 #include <fmt/format.h>
@@ -10,9 +10,9 @@
 #include <cstring>
 #include <filesystem>
 
-#include "host/CupsConnection.h"
 #include "host/CupsOptions.h"
 #include "host/Error.h"
+#include "queue/CupsConnection.h"
 
 namespace kwopde::host {
 
