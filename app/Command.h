@@ -29,6 +29,7 @@ Command addDialogCommand(CLI::App &commandLine);
 Command addOptionsCommand(CLI::App &commandLine);
 Command addPrintCommand(CLI::App &commandLine);
 Command addRunCommand(CLI::App &commandLine);
+Command addSettingsCommand(CLI::App &commandLine);
 Command addValidateCommand(CLI::App &commandLine);
 
 }  // namespace kwopde::app

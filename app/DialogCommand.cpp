@@ -1,5 +1,14 @@
+#include <fmt/format.h>
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileDialog>
 #include <QFileInfo>
 #include <QPrinter>
+#include <QTemporaryDir>
+#include <array>
+#include <filesystem>
+#include <fstream>
 #include <memory>
 #include <string>
 #include <vector>
@@ -8,14 +17,17 @@
 #include "app/Files.h"
 #include "app/JobReport.h"
 #include "app/Output.h"
+#include "app/RunDialog.h"
 #include "app/TraceOption.h"
 #include "dialog/ModuleLoader.h"
-#include "dialog/Pictures.h"
 #include "dialog/PpdDialog.h"
 #include "dialog/QueueDialog.h"
+#include "host/Error.h"
 #include "host/JobOptions.h"
 #include "host/PpdSession.h"
+#include "host/Stream.h"
 #include "host/TraceTo.h"
+#include "queue/PrintJob.h"
 #include "queue/PrintQueue.h"
 
 namespace kwopde::app {
@@ -27,18 +39,9 @@ struct DialogOptions {
   std::string printer;         // empty: the default queue
   std::string snapshotFolder;  // empty: no pictures
   std::vector<std::string> documents;
+  bool choose = false;  // ask for documents when there are none
   std::string trace = "syslog";
 };
-
-/// Shows `dialog`, or takes pictures of it and accepts it at once. Returns whether it was accepted.
-bool runDialog(QDialog &dialog, const std::string &snapshotFolder) {
-  if (snapshotFolder.empty()) return dialog.exec() == QDialog::Accepted;
-  dialog.show();
-  for (const QString &file : dialog::takePictures(dialog, QString::fromStdString(snapshotFolder)))
-    tell("wrote {}", file.toStdString());
-  dialog.accept();
-  return dialog.result() == QDialog::Accepted;
-}
 
 int ppdDialog(const DialogOptions &options) {
   auto session = std::make_shared<host::PpdSession>(host::PpdFile::open(options.ppd));
@@ -56,25 +59,79 @@ int ppdDialog(const DialogOptions &options) {
   return kDone;
 }
 
+/// Returns the printer to choose at first: the one that was asked for, which has to have panels, or
+/// the default one. Empty when there is none; Qt then chooses the first.
+std::string firstPrinter(const std::string &wanted) {
+  try {
+    const host::PrintQueue queue(wanted);
+    if (!wanted.empty()) queue.openSession();  // says what is wrong with its PPD
+    return queue.destination();
+  } catch (const host::JobError &) {
+    throw;
+  } catch (const host::Error &) {
+    if (!wanted.empty()) throw;
+    return {};
+  }
+}
+
+/// Returns the documents as files that can be read again when printing fails: what comes from a
+/// pipe is copied into `copies`.
+std::vector<std::string> documentFiles(const std::vector<std::string> &documents,
+                                       const QTemporaryDir &copies) {
+  std::vector<std::string> files;
+  for (const std::string &document : documents) {
+    std::error_code error;
+    if (document != host::kStandardInput && !std::filesystem::is_fifo(document, error)) {
+      files.push_back(document);
+      continue;
+    }
+    const std::string path =
+        copies.filePath(QString::fromStdString(host::documentName(document))).toStdString();
+    const host::Stream source = host::openOnce(document);
+    std::ofstream copy(path, std::ios::binary);
+    std::array<char, 65536> block;
+    while (const auto size = std::fread(block.data(), 1, block.size(), source.get()))
+      copy.write(block.data(), static_cast<std::streamsize>(size));
+    if (!copy.flush())
+      throw host::Error(fmt::format("{}: there is no room for a copy in {}", document,
+                                    copies.path().toStdString()));
+    files.push_back(path);
+  }
+  return files;
+}
+
+/// Returns the documents that a person chooses; none when they choose none.
+std::vector<std::string> chooseDocuments() {
+  std::vector<std::string> documents;
+  const QString title = QCoreApplication::translate("kwopde::app", "Choose What to Print");
+  const auto files = QFileDialog::getOpenFileNames(nullptr, title);
+  for (const QString &file : files) documents.push_back(QFile::encodeName(file).toStdString());
+  return documents;
+}
+
 int queueDialog(const DialogOptions &options) {
-  const host::PrintQueue queue(options.printer);
-  queue.openSession();  // says what is wrong with its PPD before anything opens
+  const std::string first = firstPrinter(options.printer);
   PlugInModule &module = dialog::loadModule();
   const auto sink = openTrace(options.trace);
   const host::TraceTo trace(module, sink.get());
   QPrinter printer;
-  printer.setPrinterName(QString::fromStdString(queue.name()));
-  QStringList documents;
-  for (const std::string &document : options.documents)
-    documents.append(QString::fromStdString(document));
-  dialog::QueueDialog dialog(module, printer, documents);
-  if (!runDialog(dialog, options.snapshotFolder)) return kNotDone;
+  if (!first.empty()) printer.setPrinterName(QString::fromStdString(first));
+  const QTemporaryDir copies;
+  dialog::QueueDialog dialog(module, printer, documentFiles(options.documents, copies));
+  if (!options.snapshotFolder.empty()) dialog.setUnattended();
+  const bool isAccepted = runDialog(dialog, options.snapshotFolder);
+  if (!dialog.problem().isEmpty()) throw host::JobError(dialog.problem().toStdString());
+  if (!isAccepted) return kNotDone;
   printChoices(dialog.chosenOptions());
   if (dialog.jobId()) reportSent(dialog.job(), *dialog.jobId());
   return kDone;
 }
 
-int dialog(const DialogOptions &options) {
+int dialog(DialogOptions options) {
+  if (options.choose && options.documents.empty()) {
+    options.documents = chooseDocuments();
+    if (options.documents.empty()) return kNotDone;
+  }
   expectReadable(options.documents);
   return options.ppd.empty() ? queueDialog(options) : ppdDialog(options);
 }
@@ -91,7 +148,7 @@ Command addDialogCommand(CLI::App &commandLine) {
                                "carry")
                   ->type_name("FILE");
   command
-      ->add_option("--printer", options->printer,
+      ->add_option("--printer,-d", options->printer,
                    "A printer queue; the default one without --ppd and --printer")
       ->type_name("QUEUE")
       ->excludes(ppd);
@@ -99,8 +156,11 @@ Command addDialogCommand(CLI::App &commandLine) {
       ->add_option("--snapshot", options->snapshotFolder,
                    "Saves a picture of every tab there and prints at once")
       ->type_name("DIR");
+  command->add_flag("--choose", options->choose,
+                    "Asks for the documents when none are named; without it, nothing is printed "
+                    "then, and what a job would carry is listed");
   addTraceOption(*command, options->trace)->capture_default_str();
-  command->add_option("documents", options->documents, "What is to be printed")
+  command->add_option("documents", options->documents, "What is to be printed; - is standard input")
       ->type_name("DOCUMENT");
   return {command, [options] { return dialog(*options); },
           [options] { return options->snapshotFolder.empty(); }};

@@ -4,9 +4,11 @@
 
 #include <cerrno>
 #include <cstring>
+#include <filesystem>
 #include <iostream>
 
 #include "host/Error.h"
+#include "queue/PrintJob.h"
 
 namespace kwopde::app {
 
@@ -21,7 +23,11 @@ std::ifstream openReadable(const std::string &path) {
 }
 
 void expectReadable(const std::vector<std::string> &paths) {
-  for (const std::string &path : paths) openReadable(path);
+  for (const std::string &path : paths) {
+    std::error_code error;
+    if (path == host::kStandardInput || std::filesystem::is_fifo(path, error)) continue;
+    openReadable(path);
+  }
 }
 
 ScriptSource::ScriptSource(const std::string &name) {

@@ -4,7 +4,6 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <cstdio>
-#include <filesystem>
 #include <iostream>
 #include <memory>
 #include <numeric>
@@ -105,7 +104,8 @@ std::optional<int> send(const host::PrintJob &job) {
   const bool showsProgress = isatty(STDERR_FILENO) != 0;
   const auto id = host::send(job, [&](long long sent, long long total) {
     if (showsProgress)
-      std::fprintf(stderr, "\rsending: %lld %%", sent * 100 / std::max(total, 1LL));
+      std::fprintf(stderr, "\rsending: %lld %%",
+                   std::min(sent * 100 / std::max(total, 1LL), 100LL));
     return !ending->wereHeard();
   });
   if (showsProgress) std::fputc('\n', stderr);
@@ -133,7 +133,7 @@ int print(const PrintOptions &options) {
   carried.carry(*session);
 
   host::PrintJob job{queue.name(), options.title, options.documents, carried.all()};
-  if (job.title.empty()) job.title = std::filesystem::path(job.documents.front()).filename();
+  if (job.title.empty()) job.title = host::documentName(job.documents.front());
   const auto id = send(job);
   if (!id) {
     tell("kwopde: cancelled; the printer has no job");
@@ -172,7 +172,7 @@ Command addPrintCommand(CLI::App &commandLine) {
   command->add_flag("--force", options->force,
                     "Prints although an option was refused or had to give way");
   addTraceOption(*command, options->trace)->capture_default_str();
-  command->add_option("documents", options->documents, "What to print")
+  command->add_option("documents", options->documents, "What to print; - is standard input")
       ->required()
       ->type_name("DOCUMENT");
   return {command, [options] { return print(*options); }};

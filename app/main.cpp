@@ -11,9 +11,9 @@ namespace {
 
 using namespace kwopde::app;
 
-constexpr Command (*kCommands[])(CLI::App &commandLine) = {addDialogCommand,  addPrintCommand,
-                                                           addOptionsCommand, addRunCommand,
-                                                           addCheckCommand,   addValidateCommand};
+constexpr Command (*kCommands[])(CLI::App &commandLine) = {
+    addDialogCommand, addSettingsCommand, addPrintCommand,   addOptionsCommand,
+    addRunCommand,    addCheckCommand,    addValidateCommand};
 
 /// Runs without a display, unless a person is to see something.
 void choosePlatform(bool forAPerson) {

@@ -1,11 +1,11 @@
 #include "attach/kwopde/attach.h"
 
 #include <QEvent>
-#include <QMessageBox>
 #include <QPrintDialog>
 #include <QtDebug>
 
 #include "dialog/ModuleLoader.h"
+#include "dialog/PlainText.h"
 #include "dialog/PrintDialogPanels.h"
 #include "dialog/Translations.h"
 #include "host/Error.h"
@@ -36,12 +36,11 @@ private:
     panels_.settle();
     panels_.handOver();
     // The application prints now, so this can only be told.
-    const QStringList problems = panels_.refusals() + panels_.conflicts();
+    QStringList problems = panels_.refusals();
+    if (const QString conflicts = panels_.conflicts(); !conflicts.isEmpty())
+      problems.append(conflicts);
     if (problems.isEmpty()) return;
-    QMessageBox box(QMessageBox::Warning, dialog_.windowTitle(), problems.join("\n\n"),
-                    QMessageBox::Ok, &dialog_);
-    box.setTextFormat(Qt::PlainText);
-    box.exec();
+    dialog::warn(&dialog_, problems.join("\n\n"));
   }
 
   QPrintDialog &dialog_;

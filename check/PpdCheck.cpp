@@ -5,8 +5,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdio>
+#include <cstdlib>
 #include <cstring>
-#include <fstream>
 #include <functional>
 #include <map>
 #include <optional>
@@ -15,6 +16,7 @@
 #include "host/Extension.h"
 #include "host/MarkableChoice.h"
 #include "host/PpdSession.h"
+#include "host/Stream.h"
 #include "host/TraceTo.h"
 #include "platform/Numbers.h"
 #include "platform/PanelInspector.h"
@@ -28,14 +30,17 @@ using Severity = Finding::Severity;
 /// Where keywords stand in a PPD file.
 class LineIndex {
 public:
-  explicit LineIndex(const std::string &path) {
-    std::ifstream file(path);
-    std::string line;
-    for (int number = 1; std::getline(file, line); ++number) {
+  /// `file`, read to its end, stays the caller's.
+  explicit LineIndex(std::FILE *file) {
+    char *block = nullptr;
+    std::size_t room = 0;
+    for (int number = 1; getline(&block, &room, file) > 0; ++number) {
       // "*OpenUI *key/Text: ...", "*Defaultkey: ...", "*key choice/Text: ..."
-      const auto end = line.find_first_of("/:");
-      if (!line.empty() && line.front() == '*') lines_.try_emplace(line.substr(0, end), number);
+      const std::string_view line(block);
+      if (line.starts_with('*'))
+        lines_.try_emplace(std::string(line.substr(0, line.find_first_of("/:\r\n"))), number);
     }
+    std::free(block);
   }
 
   int option(const std::string &key) const { return find("*OpenUI *" + key); }
@@ -62,8 +67,10 @@ class Checker {
 public:
   Checker(PlugInModule &module, const std::string &path)
       : module_(module),
-        lines_(path),
-        session_(std::make_shared<host::PpdSession>(host::PpdFile::openUntrimmed(path))) {
+        file_(host::openRepeatable(path)),
+        lines_(file_.get()),
+        session_(
+            std::make_shared<host::PpdSession>(host::PpdFile::readUntrimmed(file_.get(), path))) {
     report_.file = path;
   }
 
@@ -216,6 +223,7 @@ private:
   }
 
   PlugInModule &module_;
+  host::Stream file_;
   LineIndex lines_;
   std::shared_ptr<host::PpdSession> session_;
   PpdReport report_;

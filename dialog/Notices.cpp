@@ -18,6 +18,36 @@ void Notices::requestWasAnswered(const std::string *key, const std::string *choi
   std::erase_if(notices_, [&](const Notice &notice) { return isAbout(notice, *key); });
   if (!answer.granted() || !answer.changes.empty()) notices_.push_back({*key, *choice, answer});
   tell();
+  emit marked();
+}
+
+void Notices::willAnnounce(const host::OptionChoice &change) {
+  std::erase_if(notices_, [&](const Notice &notice) {
+    return !notice.answer.granted() && notice.key == change.key;
+  });
+  tell();
+  emit marked();
+}
+
+void Notices::undo() {
+  const auto last = lastToUndo();
+  if (last == notices_.rend()) return;
+  const Notice notice = *last;
+  notices_.erase(std::next(last).base());
+  if (!notice.answer.before.empty()) session_.mark(notice.key, notice.answer.before);
+  for (const auto &change : notice.answer.changes)
+    if (!change.before.empty()) session_.mark(change.key, change.before);
+  tell();
+}
+
+std::vector<Notices::Notice>::reverse_iterator Notices::lastToUndo() {
+  return std::find_if(notices_.rbegin(), notices_.rend(), [this](const Notice &notice) {
+    return notice.answer.granted() && !sentence(notice).isEmpty();
+  });
+}
+
+bool Notices::stands(const host::Answer::Change &change) const {
+  return session_.markedChoice(change.key) == change.choice;
 }
 
 std::vector<Notices::Refusal> Notices::refusals() const {
@@ -47,13 +77,15 @@ QString Notices::sentence(const Notice &notice) const {
     case Reason::granted: {
       QStringList sentences;
       for (const auto &change : answer.changes)
-        sentences.append(tr("Changed %1 from %2 to %3, to go with %4: %5.")
-                             .arg(titleOf(change.key), textOf(change.key, change.before),
-                                  textOf(change.key, change.choice), option, wanted));
+        if (stands(change))
+          sentences.append(tr("Changed %1 from %2 to %3, to go with %4: %5.")
+                               .arg(titleOf(change.key), textOf(change.key, change.before),
+                                    textOf(change.key, change.choice), option, wanted));
       return sentences.join('\n');
     }
     case Reason::conflict:
-      return tr("%1 cannot be %2 together with %3.").arg(option, wanted, conflictText(answer));
+      return tr("%1 cannot be %2 together with %3.")
+          .arg(option, wanted, listText(answer.conflicts));
     case Reason::outsideLimits:
       if (const auto range = session_.range(key))
         return tr("%1 cannot be %2: this printer takes %3 to %4.")
@@ -78,9 +110,15 @@ QString Notices::textOf(const std::string &key, const std::string &choice) const
   return QString::fromStdString(session_.ppd().textOf(key, choice));
 }
 
-QString Notices::conflictText(const host::Answer &answer) const {
+QString Notices::conflicts() const {
+  const auto choices = session_.conflicts();
+  return choices.empty() ? QString()
+                         : tr("This printer cannot do these together: %1.").arg(listText(choices));
+}
+
+QString Notices::listText(const std::vector<host::OptionChoice> &choices) const {
   QStringList texts;
-  for (const auto &[key, choice] : answer.conflicts)
+  for (const auto &[key, choice] : choices)
     texts.append(tr("%1: %2").arg(titleOf(key), textOf(key, choice)));
   return texts.join(", ");
 }
@@ -89,10 +127,11 @@ void Notices::tell() {
   QStringList sentences;
   for (const Notice &notice : notices_)
     if (const QString text = sentence(notice); !text.isEmpty()) sentences.append(text);
+  if (const QString text = conflicts(); !text.isEmpty()) sentences.append(text);
   const QString all = sentences.join('\n');
   if (all == told_) return;
   told_ = all;
-  emit changed(all);
+  emit changed(all, lastToUndo() != notices_.rend());
 }
 
 }  // namespace kwopde::dialog

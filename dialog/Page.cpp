@@ -1,7 +1,9 @@
 #include "dialog/Page.h"
 
 #include <QAccessible>
+#include <QHBoxLayout>
 #include <QLabel>
+#include <QPushButton>
 #include <QScrollArea>
 #include <QStyle>
 #include <QVBoxLayout>
@@ -20,27 +22,40 @@ QList<QWidget *> focusChain(QWidget *top) {
 
 }  // namespace
 
-Page::Page() : area_(new QScrollArea), remark_(new QLabel), notice_(new QLabel) {
-  auto *layout = new QVBoxLayout(this);
-  layout->setContentsMargins(0, 0, 0, 0);
-  layout->addWidget(area_, 1);
-  layout->addWidget(remark_);
-  layout->addWidget(notice_);
+Page::Page()
+    : area_(new QScrollArea),
+      remark_(new QLabel),
+      layout_(new QVBoxLayout(this)),
+      box_(new QFrame),
+      notice_(new QLabel),
+      undo_(new QPushButton(tr("Undo"))) {
+  layout_->setContentsMargins(0, 0, 0, 0);
+  layout_->addWidget(area_, 1);
+  layout_->addWidget(remark_);
+  layout_->addWidget(box_);
   area_->setFrameShape(QFrame::NoFrame);
   area_->setWidgetResizable(true);
   area_->setFocusPolicy(Qt::NoFocus);
   area_->viewport()->setAutoFillBackground(false);
   remark_->setObjectName("remark");
   notice_->setObjectName("notice");
+  undo_->setObjectName("undo");
+  connect(undo_, &QPushButton::clicked, this, &Page::undoRequested);
+  auto *inBox = new QHBoxLayout(box_);
+  inBox->addWidget(notice_, 1);
+  inBox->addWidget(undo_);
   for (QLabel *label : {remark_, notice_}) {
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
-    // In line with the captions of a panel.
-    label->setContentsMargins(style()->pixelMetric(QStyle::PM_LayoutLeftMargin), 0,
-                              style()->pixelMetric(QStyle::PM_LayoutRightMargin),
-                              style()->pixelMetric(QStyle::PM_LayoutBottomMargin));
-    label->hide();
   }
+  // In line with the captions of a panel.
+  const QMargins margins(style()->pixelMetric(QStyle::PM_LayoutLeftMargin), 0,
+                         style()->pixelMetric(QStyle::PM_LayoutRightMargin),
+                         style()->pixelMetric(QStyle::PM_LayoutBottomMargin));
+  remark_->setContentsMargins(margins);
+  inBox->setContentsMargins(margins);
+  remark_->hide();
+  box_->hide();
 }
 
 QSize Page::sizeHint() const {
@@ -48,9 +63,35 @@ QSize Page::sizeHint() const {
   return {fontMetrics().averageCharWidth() * 72, fontMetrics().height() * 24};
 }
 
-void Page::setNotice(const QString &text) {
+void Page::setHeader(QWidget *header) {
+  header_ = header;
+  layout_->insertWidget(0, header);
+  orderFocus();
+}
+
+void Page::placeAfter(QWidget *before) {
+  setFocusPolicy(Qt::TabFocus);  // without one, the page has no place in the order
+  setTabOrder(before, this);
+  orderFocus();
+}
+
+void Page::orderFocus() {
+  setFocusPolicy(Qt::TabFocus);
+  QWidget *before = this;
+  for (QWidget *part : {header_, area_->widget(), static_cast<QWidget *>(box_)}) {
+    if (!part) continue;
+    for (QWidget *control : focusChain(part)) {
+      setTabOrder(before, control);
+      before = control;
+    }
+  }
+  setFocusPolicy(Qt::NoFocus);
+}
+
+void Page::setNotice(const QString &text, bool canUndo) {
   notice_->setText(text);
-  notice_->setVisible(!text.isEmpty());
+  undo_->setVisible(canUndo);
+  box_->setVisible(!text.isEmpty());
   if (text.isEmpty()) return;
   QAccessibleEvent event(notice_, QAccessible::Alert);
   QAccessible::updateAccessibility(&event);
@@ -62,17 +103,9 @@ void Page::setRemark(const QString &text) {
 }
 
 void Page::setContent(QWidget *content) {
-  const auto controls = focusChain(content);
   area_->setWidget(content);
   content->setAutoFillBackground(false);
-  // Made late, its controls come last; they belong after the tab bar.
-  setFocusPolicy(Qt::TabFocus);  // without one, the page has no place in the order
-  QWidget *before = this;
-  for (QWidget *control : controls) {
-    setTabOrder(before, control);
-    before = control;
-  }
-  setFocusPolicy(Qt::NoFocus);
+  orderFocus();
 }
 
 }  // namespace kwopde::dialog

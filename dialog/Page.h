@@ -1,10 +1,13 @@
-// A tab's page: its content, and below it a line for what the host has to say.
+// A tab's page: its content, and around it what the host has to say.
 #pragma once
 
 #include <QWidget>
 
+class QFrame;
 class QLabel;
+class QPushButton;
 class QScrollArea;
+class QVBoxLayout;
 
 namespace kwopde::dialog {
 
@@ -16,11 +19,22 @@ public:
 
   QSize sizeHint() const override;
 
-  /// Shows `text` below the content; empty takes the line away. Screen readers hear it.
-  void setNotice(const QString &text);
+  /// Lets the Tab key visit the page's controls after `before`, a widget of the same window.
+  void placeAfter(QWidget *before);
+
+  /// Puts `header`, which now belongs to the page, above the content.
+  void setHeader(QWidget *header);
+
+  /// Shows `text` below the content, with a link that undoes what it tells if `canUndo`; empty
+  /// takes the box away. Screen readers hear it.
+  void setNotice(const QString &text, bool canUndo = false);
 
   /// Shows `text` as the last line of the page, as long as the page lives.
   void setRemark(const QString &text);
+
+signals:
+  /// What the notice tells of is to be undone.
+  void undoRequested();
 
 protected:
   /// Shows `content`, which now belongs to the page, in place of what was there. It scrolls where a
@@ -28,9 +42,15 @@ protected:
   void setContent(QWidget *content);
 
 private:
+  void orderFocus();
+
+  QWidget *header_ = nullptr;
   QScrollArea *area_;
   QLabel *remark_;
+  QVBoxLayout *layout_;
+  QFrame *box_;
   QLabel *notice_;
+  QPushButton *undo_;
 };
 
 }  // namespace kwopde::dialog

@@ -105,14 +105,19 @@ PanelPages::PanelPages(PlugInModule &module, std::shared_ptr<host::PpdSession> s
       session_(std::move(session)),
       notices_(*session_),
       extension_(module, session_) {
-  const PanelList *panels = extension_.open();
-  if (!panels) return;
-  for (const auto &panel : *panels) {
+  panels_ = extension_.open();
+  if (!panels_) return;
+  for (const auto &panel : *panels_) {
     panel->restoreValuesAndReturnError(nullptr);
     panelPages_.append(new PanelPage(*panel, session_->ppdFile()));
   }
-  summaryPage_ = new SummaryPage(*panels, session_->ppdFile());
-  for (Page *page : pages()) connect(&notices_, &Notices::changed, page, &Page::setNotice);
+  summaryPage_ = new SummaryPage(*panels_, session_->ppdFile());
+  for (Page *page : pages()) {
+    connect(&notices_, &Notices::changed, page, &Page::setNotice);
+    connect(page, &Page::undoRequested, this, &PanelPages::undo);
+  }
+  connect(&notices_, &Notices::marked, this, &PanelPages::changed);
+  notices_.tell();
 }
 
 PanelPages::~PanelPages() {
@@ -125,6 +130,23 @@ QList<Page *> PanelPages::pages() const {
     if (page) pages.append(page);
   if (summaryPage_) pages.append(summaryPage_);
   return pages;
+}
+
+void PanelPages::undo() {
+  notices_.undo();
+  showMarks();
+}
+
+void PanelPages::reset(const std::vector<host::OptionChoice> &queueDefaults) {
+  session_->markDefaults(queueDefaults);
+  showMarks();
+}
+
+void PanelPages::showMarks() {
+  // A panel that hears of a change shows it after an action of its own only.
+  if (panels_)
+    for (const auto &panel : *panels_) panel->restoreValuesAndReturnError(nullptr);
+  if (summaryPage_ && summaryPage_->isVisible()) summaryPage_->refresh();
 }
 
 bool PanelPages::print() {

@@ -14,6 +14,8 @@
 
 namespace kwopde::dialog {
 
+class SummaryPage;
+
 /// One panel. The panel hears that it is shown and left when its page is; its view is made when the
 /// page is first seen.
 class PanelPage final : public Page {
@@ -71,16 +73,34 @@ public:
   /// Returns what was asked for and refused, a sentence each.
   QStringList refusals() const;
 
+  /// Returns what is marked and does not go together, as a sentence; empty when all does.
+  QString conflicts() const { return notices_.conflicts(); }
+
+  /// Puts the panels' options back to the defaults of the queue and of its PPD.
+  void reset(const std::vector<host::OptionChoice> &queueDefaults);
+
+  /// Lets the panels show what is marked now, after somebody else has marked it.
+  void showMarks();
+
+  /// Returns whether what is set differs from what was set at first.
+  bool isChanged() const { return session_->isChanged(); }
+
 signals:
+  /// What is set may differ from what was set before.
+  void changed();
+
   /// A page that a person has to see now.
   void asksFor(QWidget *page);
 
 private:
+  void undo();
+
   std::shared_ptr<host::PpdSession> session_;
   Notices notices_;
   host::Extension extension_;
+  const PanelList *panels_ = nullptr;  // null when there are none
   QList<QPointer<PanelPage>> panelPages_;
-  QPointer<Page> summaryPage_;
+  QPointer<SummaryPage> summaryPage_;
   std::vector<Notices::Refusal> told_;  // by the last call of print
 };
 

@@ -22,7 +22,7 @@ QStringList takePictures(QDialog &dialog, const QString &folder) {
     tabs->setCurrentIndex(i);
     take(tabs->currentWidget()->objectName());
   }
-  if (!tabs) take("dialog");
+  if (files.isEmpty()) take("dialog");
   return files;
 }
 

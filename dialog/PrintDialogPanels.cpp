@@ -2,9 +2,14 @@
 
 #include <QComboBox>
 #include <QLabel>
+#include <QPageSize>
 #include <QPrinter>
+#include <QPushButton>
+#include <QTabBar>
 #include <QTabWidget>
+#include <QTimer>
 
+#include "dialog/AdvancedOptions.h"
 #include "dialog/PrinterOptions.h"
 #include "host/Error.h"
 #include "queue/PrintQueue.h"
@@ -18,31 +23,73 @@ PrintDialogPanels::PrintDialogPanels(PlugInModule &module, QPrintDialog &dialog)
   // The dialog tells nobody which printer is chosen, but its combo box does.
   if (auto *printers = dialog.findChild<QComboBox *>("printers"))
     connect(printers, &QComboBox::currentTextChanged, this, &PrintDialogPanels::showPanelsOf);
-  showPanelsOf(dialog.printer()->printerName());
+  if (auto *properties = dialog.findChild<QPushButton *>("properties")) {
+    // Qt makes its Properties, and waits for them, while the button says that it was clicked.
+    connect(properties, &QPushButton::released, this,
+            [this] { QTimer::singleShot(0, this, &PrintDialogPanels::fillProperties); });
+    connect(properties, &QPushButton::clicked, this, &PrintDialogPanels::readProperties);
+  }
+  const QString printer = dialog.printer()->printerName();
+  // What an earlier dialog has set on the same QPrinter is still set.
+  if (Printer *chosen = open(printer)) chosen->session->markSaved(cupsOptions(*dialog.printer()));
+  showPanelsOf(printer);
+}
+
+PrintDialogPanels::Printer *PrintDialogPanels::open(const QString &printer) {
+  if (printer.isEmpty()) return nullptr;
+  const auto known = printers_.find(printer);
+  if (known != printers_.end()) return &known->second;
+  try {
+    const host::PrintQueue queue(printer.toStdString());
+    const auto session = queue.openSession();
+    session->setFixed(optionsOfQt());
+    return &(printers_[printer] = {queue.options(), session});
+  } catch (const host::Error &) {
+    return nullptr;  // not a queue with a PPD: a printer that is not ours
+  }
 }
 
 void PrintDialogPanels::showPanelsOf(const QString &printer) {
-  pages_.reset();
-  session_.reset();
-  destination_.clear();
-  opened_.clear();
-  if (printer.isEmpty()) return;
-  try {
-    const host::PrintQueue queue(printer.toStdString());
-    session_ = queue.openSession();
-    destination_ = queue.options();
-  } catch (const host::Error &) {
-    return;  // not a queue with a PPD: a printer that is not ours
-  }
-  session_->setFixed(optionsOfQt());
-  pages_ = std::make_unique<PanelPages>(module_, session_);
+  closePages();
+  printer_ = open(printer);
+  if (!printer_) return;
+  pages_ = std::make_unique<PanelPages>(module_, printer_->session);
+  if (!hasPanels()) return;
+  presets_ = std::make_unique<PresetRow>(printer, *pages_, [this] { return settings(); }, &dialog_);
+  connect(presets_.get(), &PresetRow::chosen, this, &PrintDialogPanels::switchTo,
+          Qt::QueuedConnection);
   QList<QWidget *> tabs;
   for (Page *page : pages_->pages()) tabs.append(page);
-  if (!tabs.isEmpty()) dialog_.setOptionTabs(tabs);
-  for (const auto &[key, choice, isDefault] : session_->settledChoices()) opened_[key] = choice;
-  connect(pages_.get(), &PanelPages::asksFor, this, [this](QWidget *page) {
-    if (auto *tabWidget = dialog_.findChild<QTabWidget *>()) tabWidget->setCurrentWidget(page);
-  });
+  dialog_.setOptionTabs(tabs);
+  auto *tabWidget = dialog_.findChild<QTabWidget *>();
+  for (Page *page : pages_->pages()) page->placeAfter(tabWidget->tabBar());
+  connect(pages_.get(), &PanelPages::asksFor, tabWidget, &QTabWidget::setCurrentWidget);
+  for (QWidget *tab : tabs)
+    if (tab->objectName() == openTab_) tabWidget->setCurrentWidget(tab);
+}
+
+void PrintDialogPanels::closePages() {
+  const auto *tabWidget = dialog_.findChild<QTabWidget *>();
+  if (pages_ && tabWidget) openTab_ = tabWidget->currentWidget()->objectName();
+  presets_.reset();
+  pages_.reset();
+}
+
+void PrintDialogPanels::switchTo(const QString &printer) {
+  closePages();
+  printer_ = nullptr;
+  printers_.erase(printer);  // as it is saved, whatever was set before
+  auto *printers = dialog_.findChild<QComboBox *>("printers");
+  if (!printers) return;
+  if (printers->currentText() == printer) return showPanelsOf(printer);
+  if (printers->findText(printer) < 0)
+    printers->insertItem(printers->findText(printer.section('/', 0, 0)) + 1, printer);
+  printers->setCurrentText(printer);
+}
+
+std::optional<std::vector<host::OptionChoice>> PrintDialogPanels::settings() {
+  if (!settle()) return {};
+  return jobOptions().kept();
 }
 
 bool PrintDialogPanels::settle() {
@@ -56,33 +103,68 @@ QStringList PrintDialogPanels::refusals() const {
   return hasPanels() ? pages_->refusals() : QStringList();
 }
 
-QStringList PrintDialogPanels::conflicts() const {
-  QStringList texts;
-  if (!hasPanels()) return texts;
-  const host::PpdFile &ppd = session_->ppd();
-  for (const auto &[key, choice] : session_->conflicts())
-    texts.append(tr("%1: %2").arg(QString::fromStdString(ppd.textOf(key)),
-                                  QString::fromStdString(ppd.textOf(key, choice))));
-  if (texts.isEmpty()) return texts;
-  return {tr("This printer cannot do these together: %1.").arg(texts.join(", "))};
+QString PrintDialogPanels::conflicts() const {
+  return hasPanels() ? pages_->conflicts() : QString();
+}
+
+QDialog *PrintDialogPanels::properties() const {
+  for (auto *child : dialog_.findChildren<QDialog *>())
+    if (child->inherits("QPrintPropertiesDialog")) return child;
+  return nullptr;
+}
+
+/// Calls `visit` with the title of every option that has a panel, and which of its choices is
+/// marked.
+template <class Visit>
+void PrintDialogPanels::forEachOption(Visit visit) const {
+  const host::PpdSession &session = *printer_->session;
+  session.ppd().forEachOption([&](const ppd_option_t &option) {
+    if (!session.panelKeys().contains(option.keyword)) return;
+    const auto marked = session.markedChoice(option.keyword);
+    for (int i = 0; marked && i < option.num_choices; ++i)
+      if (*marked == option.choices[i].choice)
+        visit(option, QString::fromStdString(session.ppd().textOf(option.keyword)), i);
+  });
+}
+
+void PrintDialogPanels::fillProperties() {
+  if (!hasPanels()) return;
+  AdvancedOptions options(properties());
+  forEachOption([&](const ppd_option_t &, const QString &title, int choice) {
+    options.choose(title, choice);
+  });
+}
+
+void PrintDialogPanels::readProperties() {
+  const QDialog *dialog = properties();
+  if (!hasPanels() || !dialog || dialog->result() != QDialog::Accepted) return;
+  host::PpdSession &session = *printer_->session;
+  const auto *papers = dialog->findChild<QComboBox *>("pageSizeCombo");
+  if (papers)
+    session.mark("PageSize", papers->currentData().value<QPageSize>().key().toStdString());
+  const AdvancedOptions options(dialog);
+  std::vector<host::OptionChoice> picked;
+  forEachOption([&](const ppd_option_t &option, const QString &title, int choice) {
+    const int shown = options.choice(title).value_or(choice);
+    if (shown != choice && shown < option.num_choices)
+      picked.push_back({option.keyword, option.choices[shown].choice});
+  });
+  for (const auto &[key, choice] : picked) session.mark(key, choice);
+  if (!picked.empty()) pages_->showMarks();
 }
 
 void PrintDialogPanels::learnFromQt() {
   const QPrinter &printer = *dialog_.printer();
-  session_->mark("PageSize", printer.pageLayout().pageSize().key().toStdString());
-  session_->mark("Duplex", duplexChoice(printer));
-  // What was picked among the printer's options in Qt's own Properties counts where the panels have
-  // left the option as it was. Qt lists those too that nobody has picked.
-  for (const auto &[key, choice] : cupsOptions(printer)) {
-    const auto opened = opened_.find(key);
-    const bool isPicked = opened == opened_.end() || choice != opened->second;
-    const bool isLeft = opened == opened_.end() || session_->markedChoice(key) == opened->second;
-    if (isPicked && isLeft) session_->mark(key, choice);
-  }
+  host::PpdSession &session = *printer_->session;
+  session.mark("PageSize", printer.pageLayout().pageSize().key().toStdString());
+  session.mark("Duplex", duplexChoice(printer));
+  const auto ofPanels = session.panelKeys();  // of which Qt lists what it was opened with
+  for (const auto &[key, choice] : cupsOptions(printer))
+    if (!ofPanels.contains(key)) session.mark(key, choice);
 }
 
 host::JobOptions PrintDialogPanels::jobOptions() const {
-  host::JobOptions job(destination_);
+  host::JobOptions job(printer_ ? printer_->destination : std::vector<host::OptionChoice>());
   setPrinterOptions(dialog_, job);
   if (hasPanels()) carryPanels(job);
   return job;
@@ -91,19 +173,19 @@ host::JobOptions PrintDialogPanels::jobOptions() const {
 void PrintDialogPanels::handOver() {
   if (!hasPanels()) return;
   QPrinter &printer = *dialog_.printer();
-  host::JobOptions known(destination_);
+  host::JobOptions known(printer_->destination);
   const auto list = cupsOptions(printer);
   for (const auto &[key, choice] : list) known.set(key, choice);
   carryPanels(known);
   host::JobOptions handed(list);
-  for (const auto &[key, choice, isDefault] : session_->settledChoices())
+  for (const auto &[key, choice, isDefault] : printer_->session->settledChoices())
     if (const auto value = known.value(key); value && !optionsOfQt().contains(key))
       handed.set(key, *value);
   setCupsOptions(printer, handed.all());
 }
 
 void PrintDialogPanels::carryPanels(host::JobOptions &job) const {
-  job.carry(*session_, optionsOfQt());
+  job.carry(*printer_->session, optionsOfQt());
 }
 
 bool PrintDialogPanels::hasPanels() const {

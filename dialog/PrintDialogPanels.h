@@ -5,8 +5,11 @@
 #include <QPrintDialog>
 #include <map>
 #include <memory>
+#include <optional>
+#include <vector>
 
 #include "dialog/PanelPages.h"
+#include "dialog/PresetRow.h"
 #include "host/JobOptions.h"
 #include "host/PpdSession.h"
 
@@ -29,9 +32,9 @@ public:
   /// Returns what was asked for and refused, a sentence each.
   QStringList refusals() const;
 
-  /// Returns what is set, here or in Qt's tabs, and does not go together, as a sentence; none when
+  /// Returns what is set, here or in Qt's tabs, and does not go together, as a sentence; empty when
   /// all does.
-  QStringList conflicts() const;
+  QString conflicts() const;
 
   /// Returns all that a job of this dialog carries, as settled last.
   host::JobOptions jobOptions() const;
@@ -41,17 +44,33 @@ public:
   void handOver();
 
 private:
+  /// A printer that has panels, as it was left.
+  struct Printer {
+    std::vector<host::OptionChoice> destination;  // what is saved for it
+    std::shared_ptr<host::PpdSession> session;
+  };
+
+  Printer *open(const QString &printer);
   void showPanelsOf(const QString &printer);
+  void switchTo(const QString &printer);
+  void closePages();
+  QDialog *properties() const;
+  template <class Visit>
+  void forEachOption(Visit visit) const;
+  void fillProperties();
+  void readProperties();
   void learnFromQt();
+  std::optional<std::vector<host::OptionChoice>> settings();
   void carryPanels(host::JobOptions &job) const;
   bool hasPanels() const;
 
   PlugInModule &module_;
   QPrintDialog &dialog_;
-  std::shared_ptr<host::PpdSession> session_;    // null for a printer without panels
-  std::vector<host::OptionChoice> destination_;  // what is saved for the printer
-  std::map<std::string, std::string> opened_;    // what the panels showed at first, by option
+  std::map<QString, Printer> printers_;  // by name, with the instance
+  Printer *printer_ = nullptr;           // the chosen one; null when it has no panels
   std::unique_ptr<PanelPages> pages_;
+  std::unique_ptr<PresetRow> presets_;
+  QString openTab_;  // the page that was in front, by name
 };
 
 }  // namespace kwopde::dialog

@@ -2,11 +2,13 @@
 
 #include <QCoreApplication>
 #include <QDialogButtonBox>
-#include <QFileInfo>
+#include <QLineEdit>
 #include <QMessageBox>
+#include <QPageRanges>
 #include <QPrinter>
 #include <QProgressDialog>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QScopedValueRollback>
 #include <QTabWidget>
 
@@ -31,10 +33,11 @@ void expandOptions(QPrintDialog &dialog) {
       if (box->buttonRole(button) == QDialogButtonBox::ResetRole) button->click();
 }
 
-QueueDialog::QueueDialog(PlugInModule &module, QPrinter &printer, const QStringList &documents)
+QueueDialog::QueueDialog(PlugInModule &module, QPrinter &printer,
+                         std::vector<std::string> documents)
     : QPrintDialog(&printer),
       panels_(*new PrintDialogPanels(module, *this)),
-      documents_(documents) {
+      documents_(std::move(documents)) {
   setOption(PrintToFile, false);
   expandOptions(*this);  // the panels are what this dialog is for
 }
@@ -42,10 +45,18 @@ QueueDialog::QueueDialog(PlugInModule &module, QPrinter &printer, const QStringL
 host::PrintJob QueueDialog::job() const {
   const std::string printerName = printer()->printerName().toStdString();
   host::PrintJob job{
-      printerName.substr(0, printerName.find('/')), {}, {}, panels_.jobOptions().all()};
-  for (const QString &document : documents_) job.documents.push_back(document.toStdString());
-  if (!documents_.isEmpty()) job.title = QFileInfo(documents_.front()).fileName().toStdString();
+      printerName.substr(0, printerName.find('/')), {}, documents_, panels_.jobOptions().all()};
+  if (!documents_.empty()) job.title = host::documentName(documents_.front());
   return job;
+}
+
+void QueueDialog::accept() {
+  // Qt 6.4 takes no list of pages for one unless the printer has one already.
+  const auto *pages = findChild<QRadioButton *>("pagesRadioButton");
+  const auto *list = findChild<QLineEdit *>("pagesLineEdit");
+  if (pages && list && pages->isChecked())
+    printer()->setPageRanges(QPageRanges::fromString(list->text()));
+  QPrintDialog::accept();
 }
 
 void QueueDialog::done(int result) {
@@ -53,7 +64,7 @@ void QueueDialog::done(int result) {
   if (result == Accepted) {
     const QScopedValueRollback<bool> sending(isSending_, true);
     if (!panels_.settle() || !isAllRight()) return;
-    if (!documents_.isEmpty()) switch (sendDocuments()) {
+    if (!documents_.empty()) switch (sendDocuments()) {
         case Outcome::sent:
           break;
         case Outcome::failed:
@@ -66,10 +77,11 @@ void QueueDialog::done(int result) {
 }
 
 bool QueueDialog::isAllRight() {
-  const QStringList problems = panels_.conflicts();
+  const QString problems = panels_.conflicts();
   if (problems == accepted_) return true;
-  QMessageBox box(QMessageBox::Warning, tr("Print"), problems.join("\n\n"), QMessageBox::Cancel,
-                  this);
+  if (unattended_) problem_ = problems;
+  if (unattended_) return false;
+  QMessageBox box(QMessageBox::Warning, tr("Print"), problems, QMessageBox::Cancel, this);
   box.setTextFormat(Qt::PlainText);
   QPushButton *print = box.addButton(tr("&Print Anyway"), QMessageBox::AcceptRole);
   box.exec();
@@ -88,7 +100,7 @@ QueueDialog::Outcome QueueDialog::sendDocuments() {
     std::optional<host::EndingSignals> ending(std::in_place);
     try {
       jobId_ = send(job(), [&](long long sent, long long total) {
-        progress.setValue(static_cast<int>(sent * 999 / std::max(total, 1LL)));
+        progress.setValue(static_cast<int>(std::min(sent * 999 / std::max(total, 1LL), 999LL)));
         QCoreApplication::processEvents();
         return !progress.wasCanceled() && !ending->wereHeard();
       });
@@ -105,6 +117,8 @@ QueueDialog::Outcome QueueDialog::sendDocuments() {
     if (isEnded) return Outcome::ended;
     if (failure.text().isEmpty()) return Outcome::failed;
     progress.close();
+    if (unattended_) problem_ = failure.text();
+    if (unattended_) return Outcome::failed;
     if (failure.exec() != QMessageBox::Retry) return Outcome::failed;
   }
 }

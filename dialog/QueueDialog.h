@@ -2,8 +2,9 @@
 #pragma once
 
 #include <QPrintDialog>
-#include <QStringList>
 #include <optional>
+#include <string>
+#include <vector>
 
 #include "dialog/PrintDialogPanels.h"
 #include "queue/PrintJob.h"
@@ -19,15 +20,23 @@ class QueueDialog final : public QPrintDialog {
   Q_OBJECT
 
 public:
-  /// `printer` has the queue that is chosen at first, and is borrowed. With no documents, accepting
-  /// only settles the options.
-  QueueDialog(PlugInModule &module, QPrinter &printer, const QStringList &documents);
+  /// `printer` has the queue that is chosen at first, and is borrowed. `documents` are paths of
+  /// files; with none, accepting only settles the options.
+  QueueDialog(PlugInModule &module, QPrinter &printer, std::vector<std::string> documents);
+
+  /// Asks and tells nobody: what is in the way of printing is in `problem` then.
+  void setUnattended() { unattended_ = true; }
+
+  /// Returns why accepting did not print; empty when it did, or a person has been told.
+  const QString &problem() const { return problem_; }
 
   /// Returns the number of the job that was sent; none when there were no documents.
   std::optional<int> jobId() const { return jobId_; }
 
   /// Returns the job as it was sent, or would be.
   host::PrintJob job() const;
+
+  void accept() override;
 
   /// Does nothing while documents are being sent, so that one accept is one job. SIGINT, SIGTERM,
   /// SIGHUP and SIGQUIT cancel the sending, and close the dialog.
@@ -44,10 +53,12 @@ private:
   Outcome sendDocuments();
 
   PrintDialogPanels &panels_;
-  QStringList documents_;
-  QStringList accepted_;  // conflicts that a person has waved through
+  std::vector<std::string> documents_;
+  QString accepted_;  // conflicts that a person has waved through
   std::optional<int> jobId_;
   bool isSending_ = false;
+  bool unattended_ = false;
+  QString problem_;
 };
 
 }  // namespace kwopde::dialog

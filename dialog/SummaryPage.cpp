@@ -5,20 +5,19 @@
 #include <QShowEvent>
 #include <set>
 
+#include "dialog/PlainText.h"
 #include "platform/PanelInspector.h"
 
 namespace kwopde::dialog {
 
 namespace {
 
-QLabel *plainLabel(const std::string &text) {
-  auto *label = new QLabel(QString::fromStdString(text));
-  label->setTextFormat(Qt::PlainText);
-  return label;
+QLabel *labelOf(const std::string &text) {
+  return plainLabel(QString::fromStdString(text));
 }
 
 QLabel *heading(const std::string &text) {
-  QLabel *label = plainLabel(text);
+  QLabel *label = labelOf(text);
   QFont font = label->font();
   font.setBold(true);
   label->setFont(font);
@@ -34,7 +33,7 @@ SummaryPage::SummaryPage(const PanelList &panels, ppd_file_t *ppd) : panels_(pan
 
 void SummaryPage::showEvent(QShowEvent *event) {
   Page::showEvent(event);
-  if (!event->spontaneous()) setContent(table());
+  if (!event->spontaneous()) refresh();
 }
 
 QWidget *SummaryPage::table() {
@@ -56,8 +55,8 @@ QWidget *SummaryPage::table() {
       if (!ppdFindOption(ppd_, option.key.c_str())) missing.insert(option.summary);
     for (const auto &[title, value] : summary->entries()) {
       if (missing.contains(title)) continue;
-      grid->addWidget(plainLabel(title + ":"), row, 1);
-      grid->addWidget(plainLabel(value), row++, 2);
+      grid->addWidget(labelOf(title + ":"), row, 1);
+      grid->addWidget(labelOf(value), row++, 2);
     }
   }
   grid->setRowStretch(row, 1);

@@ -14,6 +14,9 @@ public:
   /// `panels`, which work on the PPD, and `ppd` are borrowed.
   SummaryPage(const PanelList &panels, ppd_file_t *ppd);
 
+  /// Asks the panels anew.
+  void refresh() { setContent(table()); }
+
 protected:
   void showEvent(QShowEvent *event) override;
 

@@ -19,9 +19,13 @@ std::vector<OptionChoice> allConflicts(ppd_file_t *ppd, const ppd_option_t &opti
 }  // namespace
 
 std::vector<OptionChoice> allConflicts(ppd_file_t *ppd) {
-  CupsOptions conflicts;
-  conflicts.count = cupsGetConflicts(ppd, nullptr, nullptr, &conflicts.options);
-  return conflicts.others({});
+  std::vector<OptionChoice> conflicts;
+  if (ppdConflicts(ppd) == 0) return conflicts;
+  for (ppd_option_t *option = ppdFirstOption(ppd); option; option = ppdNextOption(ppd))
+    if (const ppd_choice_t *choice = ppdFindMarkedChoice(ppd, option->keyword);
+        choice && option->conflicted)
+      conflicts.push_back({option->keyword, choice->choice});
+  return conflicts;
 }
 
 std::vector<OptionChoice> conflictsOf(ppd_file_t *ppd, const ppd_option_t &option,

@@ -1,7 +1,5 @@
 #include "host/JobOptions.h"
 
-#include <strings.h>
-
 #include <algorithm>
 #include <span>
 
@@ -30,6 +28,9 @@ constexpr struct {
               {"number-up", "1"},
               {"print-color-mode", {}}};
 
+constexpr std::string_view kOfOneJob[] = {"Collate",      "copies",      "job-hold-until",
+                                          "job-priority", "page-ranges", "page-set"};
+
 bool isUsual(const OptionChoice &option) {
   return std::any_of(std::begin(kUsual), std::end(kUsual), [&](const auto &usual) {
     return option.key == usual.key && (usual.choice.empty() || option.choice == usual.choice);
@@ -42,13 +43,9 @@ bool isOfThePrinter(const OptionChoice &option) {
          option.key == "device-uri" || option.key == "auth-info-required";
 }
 
-bool isSame(std::string_view a, std::string_view b) {
-  return a.size() == b.size() && strncasecmp(a.data(), b.data(), a.size()) == 0;
-}
-
 auto find(auto &list, std::string_view key) {
   return std::find_if(list.begin(), list.end(),
-                      [&](const OptionChoice &option) { return isSame(option.key, key); });
+                      [&](const OptionChoice &option) { return isSameKey(option.key, key); });
 }
 
 }  // namespace
@@ -60,12 +57,12 @@ JobOptions::JobOptions(const std::vector<OptionChoice> &destination) {
 
 void JobOptions::set(const std::string &key, const std::string &choice) {
   for (const auto names : kNames) {
-    const auto isOurs = [&](std::string_view name) { return isSame(name, key); };
+    const auto isOurs = [&](std::string_view name) { return isSameKey(name, key); };
     if (std::none_of(names.begin(), names.end(), isOurs)) continue;
     std::erase_if(list_, [&](const OptionChoice &option) {
-      return !isSame(option.key, key) &&
+      return !isSameKey(option.key, key) &&
              std::any_of(names.begin(), names.end(),
-                         [&](std::string_view name) { return isSame(name, option.key); });
+                         [&](std::string_view name) { return isSameKey(name, option.key); });
     });
   }
   const auto known = find(list_, key);
@@ -98,6 +95,15 @@ std::vector<OptionChoice> JobOptions::chosen() const {
   std::copy_if(list_.begin(), list_.end(), std::back_inserter(chosen),
                [](const Option &option) { return !option.isUsual; });
   return chosen;
+}
+
+std::vector<OptionChoice> JobOptions::kept() const {
+  auto kept = chosen();
+  std::erase_if(kept, [](const OptionChoice &option) {
+    return std::any_of(std::begin(kOfOneJob), std::end(kOfOneJob),
+                       [&](std::string_view key) { return isSameKey(option.key, key); });
+  });
+  return kept;
 }
 
 }  // namespace kwopde::host

@@ -44,6 +44,10 @@ public:
   /// Returns what is worth telling a person: all but what the queue gives every job.
   std::vector<OptionChoice> chosen() const;
 
+  /// Returns what is worth keeping for other jobs: what is chosen, but for copies, pages and the
+  /// like, which are this job's.
+  std::vector<OptionChoice> kept() const;
+
 private:
   struct Option : OptionChoice {
     bool isUsual;  // the queue gives it to every job

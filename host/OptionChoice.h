@@ -1,7 +1,10 @@
 // An option and one of its choices, by keyword.
 #pragma once
 
+#include <strings.h>
+
 #include <string>
+#include <string_view>
 
 namespace kwopde::host {
 
@@ -10,5 +13,10 @@ struct OptionChoice {
   std::string key;
   std::string choice;
 };
+
+/// Returns whether two keywords are of one option: letter case does not tell them apart.
+inline bool isSameKey(std::string_view a, std::string_view b) {
+  return a.size() == b.size() && strncasecmp(a.data(), b.data(), a.size()) == 0;
+}
 
 }  // namespace kwopde::host

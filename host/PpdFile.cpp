@@ -7,19 +7,17 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
+#include <iterator>
 #include <utility>
 #include <vector>
 
 #include "host/Error.h"
 #include "host/MarkableChoice.h"
+#include "host/Stream.h"
 
 namespace kwopde::host {
 
 namespace {
-
-struct CloseStream {
-  void operator()(std::FILE *stream) const { std::fclose(stream); }
-};
 
 void visitGroups(const ppd_group_t *groups, int count,
                  const std::function<void(const ppd_option_t &)> &visit) {
@@ -29,12 +27,20 @@ void visitGroups(const ppd_group_t *groups, int count,
   }
 }
 
-/// Cuts `text` before the character that is not whole, if it ends in one.
+/// Cuts `text` before the character that is not whole, if it ends in one, and puts U+FFFD where
+/// there are other bytes that are no text.
 void trimToWholeCharacters(char *text) {
   char *const end = text + std::strlen(text);
   char *const valid = utf8::find_invalid(text, end);
-  // Bytes that are wrong for another reason stay, to be reported.
-  if (valid != end && end - valid < 4 && static_cast<unsigned char>(*valid) >= 0xC2) *valid = 0;
+  if (valid == end) return;
+  const bool isCut = end - valid < 4 && static_cast<unsigned char>(*valid) >= 0xC2;
+  if (isCut) *valid = 0;
+  if (isCut) return;
+  std::string readable;
+  utf8::replace_invalid(text, end, std::back_inserter(readable));
+  if (readable.size() >= PPD_MAX_TEXT) readable.resize(PPD_MAX_TEXT - 1);
+  readable.erase(utf8::find_invalid(readable.begin(), readable.end()), readable.end());
+  text[readable.copy(text, PPD_MAX_TEXT - 1)] = 0;
 }
 
 void trimTexts(ppd_file_t &ppd) {
@@ -60,26 +66,18 @@ void localize(ppd_file_t &ppd) {
 }  // namespace
 
 PpdFile PpdFile::open(const std::string &path) {
-  PpdFile file = openUntrimmed(path);
-  trimTexts(*file.get());
-  return file;
+  return read(openRepeatable(path).get(), path);
 }
 
 PpdFile PpdFile::read(std::FILE *file, const std::string &name) {
-  PpdFile ppd = marked(ppdOpenFd(dup(fileno(file))), name);  // which closes what it is given
+  PpdFile ppd = readUntrimmed(file, name);
   trimTexts(*ppd.get());
   return ppd;
 }
 
-PpdFile PpdFile::openUntrimmed(const std::string &path) {
-  // Opened here, since the library tells neither a folder nor a missing file from a bad one.
-  const std::unique_ptr<std::FILE, CloseStream> stream(std::fopen(path.c_str(), "rb"));
-  if (!stream || (std::getc(stream.get()) == EOF && std::ferror(stream.get())))
-    throw Error(fmt::format("{}: {}", path, std::strerror(errno)));
-  return marked(ppdOpenFile(path.c_str()), path);
-}
-
-PpdFile PpdFile::marked(ppd_file_t *ppd, const std::string &name) {
+PpdFile PpdFile::readUntrimmed(std::FILE *file, const std::string &name) {
+  std::rewind(file);
+  ppd_file_t *const ppd = ppdOpenFd(dup(fileno(file)));  // which closes what it is given
   if (!ppd) {
     int line = 0;
     const ppd_status_t status = ppdLastError(&line);

@@ -12,16 +12,18 @@ namespace kwopde::host {
 
 class PpdFile {
 public:
-  /// Opens the PPD at `path`, puts its texts into the user's language, trims those that a field of
-  /// the records has cut in the middle of a character, and marks the defaults. Throws `Error` with
+  /// Opens the PPD at `path`, a file, a pipe or "-" for standard input. Puts its texts into the
+  /// user's language, trims those that a field of the records has cut in the middle of a character,
+  /// shows U+FFFD for bytes that are no text, and marks the defaults. Throws `Error` with
   /// the file, the line and the CUPS library's reason when it cannot be read.
   static PpdFile open(const std::string &path);
 
-  /// Reads it the same way from `file`, which stays the caller's. Messages call it `name`.
+  /// Reads it the same way from the beginning of `file`, which stays the caller's. Messages call it
+  /// `name`.
   static PpdFile read(std::FILE *file, const std::string &name);
 
-  /// Opens it as `open` does, with the texts as the file has them.
-  static PpdFile openUntrimmed(const std::string &path);
+  /// Reads it as `read` does, with the texts as the file has them.
+  static PpdFile readUntrimmed(std::FILE *file, const std::string &name);
 
   /// Owned by this object.
   ppd_file_t *get() const { return ppd_.get(); }
@@ -41,9 +43,6 @@ private:
   struct Close {
     void operator()(ppd_file_t *ppd) const { ppdClose(ppd); }
   };
-
-  /// `ppd` as the library has opened it; null when it could not.
-  static PpdFile marked(ppd_file_t *ppd, const std::string &name);
 
   explicit PpdFile(ppd_file_t *ppd) : ppd_(ppd) {}
 

@@ -26,15 +26,18 @@ bool PpdSession::willChangePPDOptionKeyValue(const std::string *key, const std::
 Answer PpdSession::answer(const std::string *key, const std::string *requested) {
   using Reason = Answer::Reason;
   ppd_option_t *option = key && requested ? ppdFindOption(ppd_.get(), key->c_str()) : nullptr;
-  if (!option) return {Reason::unknownOption, {}, {}};
-  if (refusesAll_) return {Reason::unwilling, {}, {}};
+  if (!option) return {Reason::unknownOption, {}, {}, {}};
+  if (refusesAll_) return {Reason::unwilling, {}, {}, {}};
   const auto wanted = findMarkable(ppd_.get(), *option, *requested);
   if (!wanted) {
     const bool isNumber = wholeNumber(*requested) && numberRange(ppd_.get(), *option);
-    return {isNumber ? Reason::outsideLimits : Reason::unlisted, {}, {}};
+    return {isNumber ? Reason::outsideLimits : Reason::unlisted, {}, {}, {}};
   }
 
-  Answer given{Reason::granted, conflictsOf(ppd_.get(), *option, wanted->keyword()), {}};
+  Answer given{Reason::granted,
+               conflictsOf(ppd_.get(), *option, wanted->keyword()),
+               {},
+               markedChoice(option->keyword).value_or("")};
   if (!given.conflicts.empty()) {
     const auto changes = resolve(ppd_.get(), *option, wanted->keyword());
     const auto isFixed = [this](const OptionChoice &change) {
@@ -67,6 +70,17 @@ void PpdSession::markSaved(const std::vector<OptionChoice> &saved) {
   }
 }
 
+void PpdSession::markDefaults(const std::vector<OptionChoice> &queueDefaults) {
+  for (const std::string &key : panelKeys()) {
+    const ppd_option_t *option = ppdFindOption(ppd_.get(), key.c_str());
+    if (!option) continue;
+    const auto ofQueue =
+        std::find_if(queueDefaults.begin(), queueDefaults.end(),
+                     [&](const OptionChoice &other) { return isSameKey(other.key, key); });
+    if (ofQueue == queueDefaults.end() || !mark(key, ofQueue->choice)) mark(key, option->defchoice);
+  }
+}
+
 std::vector<OptionChoice> PpdSession::conflicts() const {
   return allConflicts(ppd_.get());
 }
@@ -91,8 +105,8 @@ void PpdSession::setMark(const ppd_option_t &option, const MarkableChoice &choic
 }
 
 void PpdSession::settle(const ppd_option_t &option, const MarkableChoice &choice) {
+  settled_.try_emplace(option.keyword, markedChoice(option.keyword));
   setMark(option, choice);
-  settled_.insert(option.keyword);
 }
 
 void PpdSession::announce(const OptionChoice &change) {
@@ -101,7 +115,19 @@ void PpdSession::announce(const OptionChoice &change) {
   if (const auto value = customValue(change.choice)) told.choice = std::string(*value);
   for (SessionObserver *observer : observers_) observer->willAnnounce(told);
   if (!panels_) return;
-  for (const auto &panel : *panels_) panel->PPDOptionKeyValueDidChange(&told.key, &told.choice);
+  for (const auto &panel : *panels_) {
+    // In its own spelling: PPDs differ in letter case.
+    std::string key = told.key;
+    for (const PanelOption &option : optionsOf(*panel))
+      if (isSameKey(option.key, key)) key = option.key;
+    panel->PPDOptionKeyValueDidChange(&key, &told.choice);
+  }
+}
+
+bool PpdSession::isChanged() const {
+  return std::any_of(settled_.begin(), settled_.end(), [this](const auto &entry) {
+    return markedChoice(entry.first) != entry.second;
+  });
 }
 
 std::optional<std::string> PpdSession::markedChoice(const std::string &key) const {
@@ -116,11 +142,19 @@ std::optional<NumberRange> PpdSession::range(const std::string &key) const {
   return option ? numberRange(ppd_.get(), *option) : std::nullopt;
 }
 
-std::vector<PpdSession::Settled> PpdSession::settledChoices() const {
-  auto keys = settled_;
+std::set<std::string> PpdSession::panelKeys() const {
+  std::set<std::string> keys;
   if (panels_)
     for (const auto &panel : *panels_)
-      for (const PanelOption &option : optionsOf(*panel)) keys.insert(option.key);
+      for (const PanelOption &option : optionsOf(*panel))
+        if (const auto *known = ppdFindOption(ppd_.get(), option.key.c_str()))
+          keys.insert(known->keyword);
+  return keys;
+}
+
+std::vector<PpdSession::Settled> PpdSession::settledChoices() const {
+  auto keys = panelKeys();
+  for (const auto &[key, before] : settled_) keys.insert(key);
   std::vector<Settled> settled;
   ppd_.forEachOption([&](const ppd_option_t &option) {
     const auto marked = keys.contains(option.keyword) ? markedChoice(option.keyword) : std::nullopt;

@@ -35,6 +35,7 @@ struct Answer {
   Reason reason;
   std::vector<OptionChoice> conflicts;  // marked choices that the requested one does not go with
   std::vector<Change> changes;          // what was marked instead of them
+  std::string before;                   // the option's choice until now; empty for none
 
   bool granted() const { return reason == Reason::granted; }
 };
@@ -79,6 +80,10 @@ public:
   /// Marks what the user has saved for the printer; what the PPD does not have is passed over.
   void markSaved(const std::vector<OptionChoice> &saved);
 
+  /// Marks the panels' options as `queueDefaults` has them, and the others of them as the PPD has
+  /// them, and announces it.
+  void markDefaults(const std::vector<OptionChoice> &queueDefaults);
+
   /// Names options that somebody else has in hand, such as the tabs of a dialog: a request that
   /// could only be granted by changing one of them is refused.
   void setFixed(std::set<std::string> keys) { fixed_ = std::move(keys); }
@@ -97,6 +102,12 @@ public:
   void removeObserver(SessionObserver *observer) { std::erase(observers_, observer); }
 
   const PpdFile &ppd() const { return ppd_; }
+
+  /// Returns whether an option is marked otherwise than before anybody asked for anything.
+  bool isChanged() const;
+
+  /// Returns the options of the PPD that the panels handle.
+  std::set<std::string> panelKeys() const;
 
   /// Returns the keyword of the marked choice of `key`; none when none is marked.
   std::optional<std::string> markedChoice(const std::string &key) const;
@@ -128,7 +139,7 @@ private:
   bool refusesAll_ = false;
   const PanelList *panels_ = nullptr;
   std::vector<SessionObserver *> observers_;
-  std::set<std::string> settled_;  // keys of what was asked for or changed
+  std::map<std::string, std::optional<std::string>> settled_;  // marked first, by option
   std::set<std::string> fixed_;
 
   /// The choice that stands for an option's custom values. Its record shows the number that is

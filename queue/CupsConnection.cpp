@@ -2,7 +2,6 @@
 
 #include <fmt/format.h>
 #include <strings.h>
-#include <sys/mman.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -183,8 +182,7 @@ Stream CupsConnection::fetch(const std::string &resource) {
     if (status_ == HTTP_STATUS_NOT_FOUND) return {};
     if (repeats == kMostRepeats || !canRepeat("GET", resource)) fail();
   }
-  Stream file(fdopen(memfd_create("kwopde", MFD_CLOEXEC), "w+b"));
-  if (!file) throw Error(fmt::format("no memory for {}: {}", resource, std::strerror(errno)));
+  Stream file = makeMemoryFile(resource);
   std::array<char, 16384> block;
   ssize_t size = 0;
   while (httpGetState(http) != HTTP_STATE_WAITING && (size = read(block.data(), block.size())) > 0)

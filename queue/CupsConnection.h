@@ -4,10 +4,11 @@
 #include <cups/cups.h>
 
 #include <chrono>
-#include <cstdio>
 #include <functional>
 #include <memory>
 #include <string>
+
+#include "host/Stream.h"
 
 namespace kwopde::host {
 
@@ -15,11 +16,6 @@ struct DeleteIpp {
   void operator()(ipp_t *message) const { ippDelete(message); }
 };
 using IppMessage = std::unique_ptr<ipp_t, DeleteIpp>;
-
-struct CloseStream {
-  void operator()(std::FILE *stream) const { std::fclose(stream); }
-};
-using Stream = std::unique_ptr<std::FILE, CloseStream>;
 
 /// A connection to the CUPS server of the environment (CUPS_SERVER). It takes a place on a server
 /// that has a limited number of them: keep it only while it is used.

@@ -26,13 +26,10 @@ struct Document {
 std::vector<Document> openDocuments(const std::vector<std::string> &paths, long long &total) {
   std::vector<Document> documents;
   for (const std::string &path : paths) {
+    Document document{documentName(path), openOnce(path)};
     std::error_code error;
     const auto size = std::filesystem::file_size(path, error);
-    Document document{std::filesystem::path(path).filename(), {}};
-    if (!error) document.stream.reset(std::fopen(path.c_str(), "rb"));
-    if (!document.stream)
-      throw Error(fmt::format("{}: {}", path, error ? error.message() : std::strerror(errno)));
-    total += static_cast<long long>(size);
+    if (!error) total += static_cast<long long>(size);
     documents.push_back(std::move(document));
   }
   return documents;
@@ -146,6 +143,10 @@ private:
 }
 
 }  // namespace
+
+std::string documentName(const std::string &path) {
+  return path == kStandardInput ? "(stdin)" : std::filesystem::path(path).filename().string();
+}
 
 std::optional<int> send(const PrintJob &job, const SendProgress &progress) {
   long long total = 0;

@@ -13,11 +13,18 @@ namespace kwopde::host {
 struct PrintJob {
   std::string queue;
   std::string title;
-  std::vector<std::string> documents;  // paths; all of them are one job
+  std::vector<std::string> documents;  // paths, "-" for standard input; all of them are one job
   std::vector<OptionChoice> options;   // of the PPD, and job attributes such as "copies"
 };
 
-/// How far a job has been sent, in bytes; false cancels it. Called after every block that was
+/// A document that is standard input.
+inline constexpr const char *kStandardInput = "-";
+
+/// Returns what a document is called that is at `path`: its file name, as lp(1) has it.
+std::string documentName(const std::string &path);
+
+/// How far a job has been sent, in bytes, of a total that knows nothing of pipes; false cancels
+/// it. Called after every block that was
 /// taken, and about every 50 ms while the server's answer is awaited.
 using SendProgress = std::function<bool(long long sent, long long total)>;
 

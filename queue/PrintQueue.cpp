@@ -2,7 +2,11 @@
 
 #include <cups/cups.h>
 #include <fmt/format.h>
+
 #include <algorithm>
+#include <array>
+#include <set>
+#include <string_view>
 
 #include "host/Error.h"
 #include "queue/CupsConnection.h"
@@ -10,6 +14,9 @@
 namespace kwopde::host {
 
 namespace {
+
+/// What the names of attributes that hold a queue's defaults end in.
+constexpr std::string_view kDefault = "-default";
 
 Stream fetchPpd(CupsConnection &server, const std::string &queue) {
   return server.fetch("/printers/" + queue + ".ppd");
@@ -51,6 +58,33 @@ PrintQueue::PrintQueue(const std::string &name) {
   for (int i = 0; i < dest->num_options; ++i)
     options_.push_back({dest->options[i].name, dest->options[i].value});
   cupsFreeDests(1, dest);
+}
+
+std::vector<std::string> PrintQueue::names() {
+  CupsConnection server;
+  expectAnswer(server);
+  cups_dest_t *list = nullptr;
+  const int count = cupsGetDests2(server.get(), &list);
+  std::set<std::string> names;
+  for (const cups_dest_t *dest = list; dest != list + count; ++dest) names.insert(dest->name);
+  cupsFreeDests(count, list);
+  return {names.begin(), names.end()};
+}
+
+std::vector<OptionChoice> PrintQueue::defaults() const {
+  CupsConnection server;
+  const IppMessage answer = server.ask(requestAbout(name_, IPP_OP_GET_PRINTER_ATTRIBUTES), "/");
+  std::vector<OptionChoice> defaults;
+  for (ipp_attribute_t *attribute = ippFirstAttribute(answer.get()); attribute;
+       attribute = ippNextAttribute(answer.get())) {
+    const char *const text = ippGetName(attribute);
+    const std::string_view name = text ? text : "";
+    if (!name.ends_with(kDefault)) continue;
+    std::array<char, IPP_MAX_LENGTH> value;
+    ippAttributeString(attribute, value.data(), value.size());
+    defaults.push_back({std::string(name.substr(0, name.size() - kDefault.size())), value.data()});
+  }
+  return defaults;
 }
 
 std::shared_ptr<PpdSession> PrintQueue::openSession() const {

@@ -16,6 +16,10 @@ public:
   /// when there is no server or it does not answer.
   explicit PrintQueue(const std::string &name);
 
+  /// Returns the names of the queues that the server has, in order. Throws `JobError` when it does
+  /// not answer.
+  static std::vector<std::string> names();
+
   /// Returns the name on the server, without an instance.
   const std::string &name() const { return name_; }
 
@@ -24,6 +28,10 @@ public:
 
   /// Returns what is saved for the destination, and the queue's own defaults.
   const std::vector<OptionChoice> &options() const { return options_; }
+
+  /// Returns what the queue gives every job unless told otherwise, whatever a person has saved.
+  /// Throws `JobError` when the server does not tell.
+  std::vector<OptionChoice> defaults() const;
 
   /// Returns a session on the queue's PPD, with the user's saved options marked. Throws `Error`
   /// when the queue has no PPD, or a broken one, and `JobError` when it did not come whole.

@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>kwopde::app</name>
+    <message>
+        <source>Choose What to Print</source>
+        <translation>Auswählen, was gedruckt wird</translation>
+    </message>
+</context>
+<context>
     <name>kwopde::dialog::Notices</name>
     <message>
         <source>The job would print %1.</source>
@@ -24,8 +31,26 @@
         <translation>%1 kann nicht %2 sein: dieser Drucker kennt diese Wahl nicht.</translation>
     </message>
     <message>
+        <source>This printer cannot do these together: %1.</source>
+        <translation>Zusammen kann dieser Drucker das nicht: %1.</translation>
+    </message>
+    <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>kwopde::dialog::Page</name>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+</context>
+<context>
+    <name>kwopde::dialog::PanelDialog</name>
+    <message>
+        <source>This printer has no settings for these panels.</source>
+        <translation>Dieser Drucker hat keine Einstellungen für diese Karten.</translation>
     </message>
 </context>
 <context>
@@ -42,8 +67,16 @@
 <context>
     <name>kwopde::dialog::PpdDialog</name>
     <message>
-        <source>Print</source>
-        <translation>Drucken</translation>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Printer Settings</source>
+        <translation>Druckereinstellungen</translation>
+    </message>
+    <message>
+        <source>Printer Settings for %1</source>
+        <translation>Druckereinstellungen für %1</translation>
     </message>
     <message>
         <source>Printer:</source>
@@ -53,24 +86,80 @@
         <source>Document:</source>
         <translation>Dokument:</translation>
     </message>
-    <message>
-        <source>This printer has no settings for these panels.</source>
-        <translation>Dieser Drucker hat keine Einstellungen für diese Karten.</translation>
-    </message>
-    <message>
-        <source>&amp;Print</source>
-        <translation>&amp;Drucken</translation>
-    </message>
 </context>
 <context>
-    <name>kwopde::dialog::PrintDialogPanels</name>
+    <name>kwopde::dialog::PresetRow</name>
     <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
+        <source>Preset:</source>
+        <translation>Vorgabe:</translation>
     </message>
     <message>
-        <source>This printer cannot do these together: %1.</source>
-        <translation>Zusammen kann dieser Drucker das nicht: %1.</translation>
+        <source>Preset</source>
+        <translation>Vorgabe</translation>
+    </message>
+    <message>
+        <source>Keep these settings, or go back to the printer's</source>
+        <translation>Diese Einstellungen behalten oder zu denen des Druckers zurückkehren</translation>
+    </message>
+    <message>
+        <source>Preset menu</source>
+        <translation>Menü der Vorgaben</translation>
+    </message>
+    <message>
+        <source>%1 (changed)</source>
+        <translation>%1 (geändert)</translation>
+    </message>
+    <message>
+        <source>Save As…</source>
+        <translation>Speichern unter …</translation>
+    </message>
+    <message>
+        <source>Save “%1”</source>
+        <translation>„%1“ speichern</translation>
+    </message>
+    <message>
+        <source>Save as My Settings</source>
+        <translation>Als meine Einstellungen speichern</translation>
+    </message>
+    <message>
+        <source>Reset to the Printer's Defaults</source>
+        <translation>Auf die Voreinstellungen des Druckers zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Delete “%1”…</source>
+        <translation>„%1“ löschen …</translation>
+    </message>
+    <message>
+        <source>Save Preset</source>
+        <translation>Vorgabe speichern</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Name:</translation>
+    </message>
+    <message>
+        <source>A preset's name has letters, digits and marks other than / and #.</source>
+        <translation>Der Name einer Vorgabe besteht aus Buchstaben, Ziffern und Zeichen außer / und #.</translation>
+    </message>
+    <message>
+        <source>Replace the preset “%1”?</source>
+        <translation>Die Vorgabe „%1“ ersetzen?</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Ersetzen</translation>
+    </message>
+    <message>
+        <source>Delete the preset “%1”?</source>
+        <translation>Die Vorgabe „%1“ löschen?</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>My settings</source>
+        <translation>Meine Einstellungen</translation>
     </message>
 </context>
 <context>
@@ -94,6 +183,21 @@
     <message>
         <source>Printing failed</source>
         <translation>Drucken fehlgeschlagen</translation>
+    </message>
+</context>
+<context>
+    <name>kwopde::dialog::SettingsDialog</name>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>Printer Settings</source>
+        <translation>Druckereinstellungen</translation>
+    </message>
+    <message>
+        <source>Printer:</source>
+        <translation>Drucker:</translation>
     </message>
 </context>
 <context>

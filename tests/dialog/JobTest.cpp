@@ -3,10 +3,15 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <sys/wait.h>
+#include <unistd.h>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QInputDialog>
+#include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
@@ -14,14 +19,21 @@
 #include <QTabWidget>
 #include <QTest>
 #include <QTimer>
+#include <QToolButton>
 #include <cstdio>
+#include <fstream>
 #include <map>
 #include <regex>
+#include <sstream>
 
 #include "attach/kwopde/attach.h"
+#include "dialog/AdvancedOptions.h"
 #include "dialog/ModuleLoader.h"
 #include "dialog/PrinterOptions.h"
 #include "dialog/QueueDialog.h"
+#include "dialog/SettingsDialog.h"
+#include "host/Error.h"
+#include "queue/Presets.h"
 #include "tests/support/JobAttributes.h"
 #include "tests/support/TemporaryFolder.h"
 
@@ -48,6 +60,12 @@ Output run(const std::string &command) {
   return output;
 }
 
+std::string contents(const std::string &path) {
+  std::ostringstream text;
+  text << std::ifstream(path).rdbuf();
+  return text.str();
+}
+
 /// What a job carries: its attributes, but for those that tell of this very job.
 Attributes carriedBy(int job) {
   static const std::regex own(
@@ -72,9 +90,8 @@ protected:
   /// Runs lpoptions and lpadmin for what a row has saved and set on the server, and takes it back.
   void given(const std::string &saved, const std::string &serverDefaults) {
     run("rm -f ~/.cups/lpoptions $CUPS_SERVERROOT/lpoptions; lpadmin -x jobs; lpadmin -p jobs -E "
-        "-v file:/dev/null "
-        "-P " KWOPDE_SOURCE_FOLDER "/resources/ppd/kwo-7032.ppd " +
-        serverDefaults);
+        "-v file:/dev/null -P " +
+        ppd_ + ' ' + serverDefaults);
     if (!saved.empty()) run("lpoptions " + saved);
   }
 
@@ -86,6 +103,7 @@ protected:
   }
 
   TemporaryFolder folder_;
+  std::string ppd_ = KWOPDE_SOURCE_FOLDER "/resources/ppd/kwo-7032.ppd";
   std::string document_ = folder_.write("page.txt", "page");
 };
 
@@ -147,7 +165,7 @@ TEST_F(Jobs, OfPrintAreHeldBackForWhatIsRefused) {
 class DialogJobs : public Jobs {
 protected:
   template <class Widget>
-  static Widget &widget(QPrintDialog &dialog, const char *name) {
+  static Widget &widget(QDialog &dialog, const char *name) {
     auto *found = dialog.findChild<Widget *>(name);
     if (!found) throw std::runtime_error(name);
     return *found;
@@ -184,23 +202,26 @@ protected:
 
 TEST_F(DialogJobs, CarryWhatItsTabsAndPanelsShow) {
   givenSaved(printer_);
-  dialog::QueueDialog dialog(dialog::loadModule(), printer_, {QString::fromStdString(document_)});
+  dialog::QueueDialog dialog(dialog::loadModule(), printer_, {document_});
   setPanels(dialog);
   widget<QSpinBox>(dialog, "copies").setValue(3);
   widget<QCheckBox>(dialog, "reverse").setChecked(true);
+  widget<QRadioButton>(dialog, "pagesRadioButton").click();
+  QTest::keyClicks(&widget<QLineEdit>(dialog, "pagesLineEdit"), "2,4-5");
   dialog.accept();
   ASSERT_TRUE(dialog.jobId());
   const auto job = carriedBy(*dialog.jobId());
   given("", "");
   auto lp = byLp(
-      "-d jobs -n 3 -o Collate=True -o PageSize=8x10 -o sides=one-sided -o outputorder=reverse "
+      "-d jobs -n 3 -P 2,4-5 -o Collate=True -o PageSize=8x10 -o sides=one-sided -o "
+      "outputorder=reverse "
       "-o printFinish=Glossy -o pageScale=100 -o rotateImage=None -o job-sheets=standard");
   EXPECT_EQ(job, lp);
 }
 
 TEST_F(DialogJobs, CarryWhatPropertiesHoldsOnceItWasOpened) {
   givenSaved(printer_);
-  dialog::QueueDialog dialog(dialog::loadModule(), printer_, {QString::fromStdString(document_)});
+  dialog::QueueDialog dialog(dialog::loadModule(), printer_, {document_});
   dialog.show();
   QTimer::singleShot(0, &dialog, [] {
     auto *properties = qobject_cast<QDialog *>(QApplication::activeModalWidget());
@@ -264,7 +285,7 @@ TEST_F(DialogJobs, OfAttachedDialogsHaveThePanelsAndLeaveTheRestToQt) {
 TEST_F(DialogJobs, KeepWhatIsTypedAndAskAboutWhatIsRefused) {
   given("", "");
   printer_.setPrinterName("jobs");
-  dialog::QueueDialog dialog(dialog::loadModule(), printer_, {QString::fromStdString(document_)});
+  dialog::QueueDialog dialog(dialog::loadModule(), printer_, {document_});
   show(dialog, 2);
   QApplication::setActiveWindow(&dialog);
   auto &scale = widget<QLineEdit>(dialog, "pageScaleEdit");
@@ -286,6 +307,155 @@ TEST_F(DialogJobs, KeepWhatIsTypedAndAskAboutWhatIsRefused) {
   dialog.accept();
   ASSERT_TRUE(dialog.jobId());
   EXPECT_THAT(carriedBy(*dialog.jobId()), Contains(Pair("pageScale", "85")));
+}
+
+// Qt's Properties and the panels show the same, and the last that was touched wins.
+TEST_F(DialogJobs, ShareWhatQtsPropertiesHold) {
+  ppd_ = folder_.write("paper.ppd", contents(ppd_) +
+                                        "*UIConstraints: *printFinish Matte *PageSize 8x10\n"
+                                        "*UIConstraints: *PageSize 8x10 *printFinish Matte\n");
+  given("-p jobs -o dustRemoval=Thorough -o printQuality=Draft", "");
+  printer_.setPrinterName("jobs");
+  dialog::QueueDialog dialog(dialog::loadModule(), printer_, {document_});
+  show(dialog, 2);
+  EXPECT_EQ(widget<QLabel>(dialog, "notice").text().toStdString(),
+            "This printer cannot do these together: Dust Removal: Thorough, Print Quality: Draft.");
+  QTest::keyClick(&widget<QComboBox>(dialog, "dustRemovalPopUp"), Qt::Key_Home);
+  EXPECT_EQ(widget<QLabel>(dialog, "notice").text(), QString());
+  QTest::keyClick(&widget<QComboBox>(dialog, "rotateImagePopUp"), Qt::Key_End);
+  const int rotated = widget<QComboBox>(dialog, "rotateImagePopUp").currentIndex();
+  QTimer::singleShot(100, &dialog, [&] {
+    auto *properties = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+    dialog::AdvancedOptions options(properties);
+    EXPECT_EQ(options.choice("Rotate Image"), rotated);
+    EXPECT_EQ(options.choice("Dust Removal"), 0);
+    options.choose("Mirror Image", 1);
+    auto &papers = *properties->findChild<QComboBox *>("pageSizeCombo");
+    papers.setCurrentIndex(papers.findText("8x10", Qt::MatchContains));
+    properties->accept();
+  });
+  widget<QPushButton>(dialog, "properties").click();
+  EXPECT_EQ(widget<QComboBox>(dialog, "mirrorImagePopUp").currentIndex(), 1);
+  EXPECT_EQ(widget<QComboBox>(dialog, "rotateImagePopUp").currentIndex(), rotated);
+  // Matte paper comes in no 8x10, and paper is Qt's.
+  QTest::keyClick(&widget<QComboBox>(dialog, "printFinishPopUp"), Qt::Key_End);
+  EXPECT_THAT(widget<QLabel>(dialog, "notice").text().toStdString(),
+              testing::HasSubstr("together with Media Size: 8x10"));
+}
+
+class Presets : public DialogJobs {
+protected:
+  /// Triggers an action of the preset menu, and gives the name that it asks for, if it does.
+  static void pick(QDialog &dialog, const char *action, const QString &name = {}) {
+    QMenu &menu = *dialog.findChild<QToolButton *>("presetMenu")->menu();
+    menu.popup({});
+    QTimer::singleShot(100, &dialog, [name] {
+      auto *question = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+      if (auto *input = qobject_cast<QInputDialog *>(question)) input->setTextValue(name);
+      if (question) QTest::keyClick(question, Qt::Key_Return);
+    });
+    menu.findChild<QAction *>(action)->trigger();
+    menu.hide();
+    QTest::qWait(10);
+  }
+  static std::string saved(const std::string &key, const std::string &destination = "jobs") {
+    const std::string text = run("lpoptions -p " + destination).text;
+    std::smatch match;
+    return std::regex_search(text, match, std::regex(key + "=(\\S+)")) ? match[1].str() : "";
+  }
+};
+
+TEST_F(Presets, AreKeptChosenAndDeletedInTheDialog) {
+  given("-p jobs -o printFinish=Matte", "");
+  printer_.setPrinterName("jobs");
+  dialog::QueueDialog dialog(dialog::loadModule(), printer_, {document_});
+  setPanels(dialog);  // printFinish=Glossy, the printer's default
+  const auto shown = [&] { return widget<QComboBox>(dialog, "presets").currentText(); };
+  EXPECT_EQ(shown(), "My settings (changed)");
+  pick(dialog, "saveAs", "Warm photo");
+  EXPECT_EQ(shown(), "Warm-photo");
+  EXPECT_EQ(widget<QComboBox>(dialog, "printers").currentText(), "jobs/Warm-photo");
+  EXPECT_EQ(dialog.findChild<QTabWidget *>()->currentWidget()->objectName(), "media");
+  EXPECT_EQ(saved("printFinish", "jobs/Warm-photo"), "Glossy");
+  EXPECT_EQ(saved("printFinish"), "Matte");
+  QTest::keyClick(&widget<QComboBox>(dialog, "presets"), Qt::Key_Up);
+  emit widget<QComboBox>(dialog, "presets").activated(0);
+  QTest::qWait(10);
+  EXPECT_EQ(widget<QComboBox>(dialog, "printFinishPopUp").currentText(), "Matte");
+  emit widget<QComboBox>(dialog, "presets").activated(1);
+  QTest::qWait(10);
+  EXPECT_EQ(widget<QComboBox>(dialog, "printFinishPopUp").currentText(), "Glossy");
+  dialog.accept();
+  ASSERT_TRUE(dialog.jobId());
+  auto lp = byLp("-d jobs/Warm-photo");
+  EXPECT_EQ(carriedBy(*dialog.jobId()), lp);
+  dialog.show();
+  pick(dialog, "delete");
+  EXPECT_EQ(shown(), "My settings");
+  EXPECT_TRUE(host::Presets("jobs").names().empty());
+}
+
+TEST_F(Presets, OfTheSettingsDialogReachEveryProgram) {
+  given("-p jobs -o pageScale=120 -o number-up=2", "-o pageScale-default=85");
+  dialog::SettingsDialog dialog(dialog::loadModule(), {"jobs", "kwo-basic"}, "jobs");
+  dialog.show();
+  EXPECT_EQ(widget<QLineEdit>(dialog, "pageScaleEdit").text(), "120 %");
+  pick(dialog, "reset");
+  EXPECT_EQ(widget<QLineEdit>(dialog, "pageScaleEdit").text(), "85 %") << "the queue's own default";
+  QTest::keyClick(&widget<QComboBox>(dialog, "printFinishPopUp"), Qt::Key_End);
+  dialog.accept();
+  EXPECT_FALSE(dialog.isVisible());
+  const auto lp = byLp("-d jobs");
+  EXPECT_THAT(lp, Contains(Pair("printFinish", "Matte")));
+  EXPECT_THAT(lp, Contains(Pair("pageScale", "85")));
+  EXPECT_THAT(lp, Contains(Pair("number-up", "2")));
+}
+
+TEST_F(Presets, OfTwoProcessesAtOnceAreAllKept) {
+  given("-p kwo-basic -o printFinish=Matte", "");
+  const auto keep = [](char process) {
+    for (char i = 'a'; i < 'k'; ++i)
+      host::Presets("jobs").save({process, i}, {{"printFinish", "Satin"}, {"note", {process, i}}});
+  };
+  const pid_t child = fork();
+  if (child == 0) {
+    keep('x');
+    _exit(0);
+  }
+  keep('y');
+  int status = -1;
+  waitpid(child, &status, 0);
+  EXPECT_EQ(status, 0);
+  const auto names = host::Presets("jobs").names();
+  ASSERT_EQ(names.size(), 20U);
+  for (const auto &name : names) EXPECT_EQ(saved("note", "jobs/" + name), name);
+  EXPECT_EQ(saved("printFinish", "kwo-basic"), "Matte");
+  host::Presets("jobs").remove("xa");
+  EXPECT_EQ(host::Presets("jobs").names().front(), "xb");
+  EXPECT_THROW(host::Presets("jobs").save("a b", {}), host::Error);
+  EXPECT_THROW(host::Presets("nowhere").save("a", {}), host::JobError);
+}
+
+TEST_F(DialogJobs, KeepWhatIsSetWhenPrintersAreSwitchedAndTheDialogOpensAnew) {
+  given("", "");
+  printer_.setPrinterName("jobs");
+  QPrintDialog first(&printer_);
+  ASSERT_TRUE(attachPanels(&first));
+  show(first, 3);
+  QTest::keyClick(&widget<QComboBox>(first, "colorModePopUp"), Qt::Key_End);
+  const QString picked = widget<QComboBox>(first, "colorModePopUp").currentText();
+  auto &printers = widget<QComboBox>(first, "printers");
+  printers.setCurrentText("kwo-1200");
+  EXPECT_EQ(first.findChild<QTabWidget *>()->currentWidget()->objectName(), "color");
+  EXPECT_NE(widget<QComboBox>(first, "colorModePopUp").currentText(), picked);
+  printers.setCurrentText("jobs");
+  EXPECT_EQ(widget<QComboBox>(first, "colorModePopUp").currentText(), picked);
+  first.accept();
+
+  QPrintDialog second(&printer_);
+  ASSERT_TRUE(attachPanels(&second));
+  show(second, 3);
+  EXPECT_EQ(widget<QComboBox>(second, "colorModePopUp").currentText(), picked);
 }
 
 }  // namespace

@@ -216,8 +216,7 @@ TEST_F(QtDialog, TwoDialogsOfOneQueueKeepTheirSettingsApart) {
 }
 
 TEST_F(QtDialog, SendsWhatWasSet) {
-  dialog::QueueDialog dialog(dialog::loadModule(), printer_,
-                             {QString::fromStdString(document("photo.txt", "photo"))});
+  dialog::QueueDialog dialog(dialog::loadModule(), printer_, {document("photo.txt", "photo")});
   open(dialog, 4);
   dialog.findChild<QLineEdit *>("amountLabel")->setText("20");
   printer_.setCopyCount(3);
@@ -229,7 +228,7 @@ TEST_F(QtDialog, SendsWhatWasSet) {
 }
 
 TEST_F(QtDialog, SendsOneJobForADoubleClickAndNoneAfterASignal) {
-  const auto large = QString::fromStdString(document("twice.txt", "text", 300000));
+  const std::string large = document("twice.txt", "text", 300000);
   dialog::QueueDialog twice(dialog::loadModule(), printer_, {large});
   QTimer::singleShot(0, &twice, [&] { twice.accept(); });
   twice.accept();
@@ -246,7 +245,7 @@ TEST_F(QtDialog, SendsOneJobForADoubleClickAndNoneAfterASignal) {
 TEST_F(QtDialog, StaysOpenWithItsSettingsWhenPrintingFails) {
   ASSERT_EQ(std::system("/usr/sbin/cupsreject kwo-7032"), 0);
   const std::string path = document("retried.txt", "text");
-  dialog::QueueDialog dialog(dialog::loadModule(), printer_, {QString::fromStdString(path)});
+  dialog::QueueDialog dialog(dialog::loadModule(), printer_, {path});
   open(dialog, 2);
   dialog.findChild<QLineEdit *>("pageScaleEdit")->setText("85");
   QStringList messages;

@@ -1,0 +1,64 @@
+#include "dialog/PanelDialog.h"
+
+#include <QDialogButtonBox>
+#include <QFormLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+#include "dialog/PlainText.h"
+
+namespace kwopde::dialog {
+
+PanelDialog::PanelDialog(PlugInModule &module, const QString &acceptText, QWidget *parent)
+    : QDialog(parent),
+      module_(module),
+      facts_(new QFormLayout),
+      none_(plainLabel(tr("This printer has no settings for these panels."))),
+      tabs_(new QTabWidget) {
+  auto *layout = new QVBoxLayout(this);
+  layout->addLayout(facts_);
+  none_->setWordWrap(true);
+  layout->addWidget(none_, 1);
+  tabs_->setObjectName("tabs");
+  layout->addWidget(tabs_, 1);
+  auto *buttons = new QDialogButtonBox(QDialogButtonBox::Cancel | QDialogButtonBox::Help, this);
+  QPushButton *button = buttons->addButton(acceptText, QDialogButtonBox::AcceptRole);
+  help_ = buttons->button(QDialogButtonBox::Help);
+  help_->setShortcut(QKeySequence::HelpContents);
+  connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+  connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+  connect(buttons, &QDialogButtonBox::helpRequested, this, &PanelDialog::showHelp);
+  layout->addWidget(buttons);
+  button->setDefault(true);
+}
+
+void PanelDialog::showPanels(const std::shared_ptr<host::PpdSession> &session) {
+  const QString openTab = tabs_->count() > 0 ? tabs_->currentWidget()->objectName() : QString();
+  pages_.reset();
+  if (session) pages_ = std::make_unique<PanelPages>(module_, session);
+  const auto pages = pages_ ? pages_->pages() : QList<Page *>();
+  for (Page *page : pages) {
+    tabs_->addTab(page, page->windowTitle());
+    page->placeAfter(tabs_->tabBar());
+  }
+  for (Page *page : pages)
+    if (page->objectName() == openTab) tabs_->setCurrentWidget(page);
+  if (pages_) connect(pages_.get(), &PanelPages::asksFor, tabs_, &QTabWidget::setCurrentWidget);
+  tabs_->setVisible(!pages.isEmpty());
+  none_->setVisible(pages.isEmpty());
+  help_->setEnabled(!pages.isEmpty());
+  if (!pages.isEmpty()) tabs_->setFocus();
+}
+
+void PanelDialog::accept() {
+  if (!pages_ || pages_->print()) QDialog::accept();
+}
+
+void PanelDialog::showHelp() {
+  if (auto *page = qobject_cast<PanelPage *>(tabs_->currentWidget())) page->showHelp();
+}
+
+}  // namespace kwopde::dialog

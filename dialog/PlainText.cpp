@@ -1,0 +1,30 @@
+#include "dialog/PlainText.h"
+
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace kwopde::dialog {
+
+QLabel *plainLabel(const QString &text) {
+  auto *label = new QLabel(text);
+  label->setTextFormat(Qt::PlainText);
+  return label;
+}
+
+void warn(QWidget *window, const QString &text) {
+  QMessageBox box(QMessageBox::Warning, window->windowTitle(), text, QMessageBox::Close, window);
+  box.setTextFormat(Qt::PlainText);
+  box.exec();
+}
+
+bool confirm(QWidget *window, const QString &question, const QString &verb) {
+  QMessageBox box(QMessageBox::Question, window->windowTitle(), question, QMessageBox::Cancel,
+                  window);
+  box.setTextFormat(Qt::PlainText);
+  QAbstractButton *yes = box.addButton(verb, QMessageBox::AcceptRole);
+  box.exec();
+  return box.clickedButton() == yes;
+}
+
+}  // namespace kwopde::dialog

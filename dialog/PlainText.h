@@ -1,0 +1,20 @@
+// Texts from elsewhere, shown as they are: a server, a PPD or a file name must not bring markup.
+#pragma once
+
+#include <QString>
+
+class QLabel;
+class QWidget;
+
+namespace kwopde::dialog {
+
+/// Makes a label that shows `text`.
+QLabel *plainLabel(const QString &text);
+
+/// Tells the person at `window`, and waits until that is read.
+void warn(QWidget *window, const QString &text);
+
+/// Asks the person at `window`. Returns whether they chose `verb`.
+bool confirm(QWidget *window, const QString &question, const QString &verb);
+
+}  // namespace kwopde::dialog

@@ -1,0 +1,27 @@
+// Files as the CUPS library and the C library read them.
+#pragma once
+
+#include <cstdio>
+#include <memory>
+#include <string>
+
+namespace kwopde::host {
+
+struct CloseStream {
+  void operator()(std::FILE *stream) const { std::fclose(stream); }
+};
+using Stream = std::unique_ptr<std::FILE, CloseStream>;
+
+/// Makes an empty file that is in memory only. Throws `Error`, which calls it `name`, when there is
+/// no room.
+Stream makeMemoryFile(const std::string &name);
+
+/// Opens the file at `path`, with "-" standard input. Throws `Error` with the path when it cannot
+/// be read.
+Stream openOnce(const std::string &path);
+
+/// Opens it for being read more than once: what can be
+/// read only once, such as a pipe, is copied into memory, up to 32 MB. Throws as `openOnce` does.
+Stream openRepeatable(const std::string &path);
+
+}  // namespace kwopde::host
