@@ -17,7 +17,7 @@ int positionInOption(const ppd_choice_t *choice, const ppd_option_t *option);
 
 class PDEChoice : public Object {
 public:
-  /// Prepares the class; runs by itself before the first choice is made, and only once.
+  /// Prepares the class; runs by itself for the first choice, however it is made, and only once.
   static void initialize();
 
   /// Returns a wrapper of `choice`, which belongs to the open PPD and must outlive it. Nothing is

@@ -43,6 +43,20 @@ TEST_F(Choice, HasTitlesAndPosition) {
   EXPECT_EQ(PDEChoice(&foreign).position(), 0);
 }
 
+// In a process of its own, where no choice has been made yet.
+TEST(ChoiceDeathTest, FirstUsePreparesTheClass) {
+  GTEST_FLAG_SET(death_test_style, "threadsafe");
+  const auto first = [] {
+    TraceRecorder trace;
+    ppd_choice_t record{};
+    const PDEChoice choice(&record);
+    const PDEChoice second(&record);
+    const bool isRead = choice.userTitle() != nullptr;
+    return isRead && trace.take() == std::vector<std::string>{"LOG Encoding set as 4"} ? 0 : 1;
+  };
+  EXPECT_EXIT(std::_Exit(first()), testing::ExitedWithCode(0), "");
+}
+
 TEST_F(Choice, TitleThatCannotBeMadeIsNilAndTracedOnce) {
   PDEChoice &cut = *choices_->at(2);
   for (int call = 0; call < 2; ++call) {
