@@ -108,6 +108,13 @@ TEST_F(Choice, IndexIsThatOfTheVeryObject) {
   EXPECT_EQ(IndexOfChoiceIdenticalTo(choices_->at(2).get(), choices_.get()), 2);
   const PDEChoice equal(choices_->at(2)->choice());
   EXPECT_EQ(IndexOfChoiceIdenticalTo(&equal, choices_.get()), std::nullopt);
+  EXPECT_EQ(IndexOfChoiceIdenticalTo(nullptr, choices_.get()), std::nullopt);
+  EXPECT_EQ(IndexOfChoiceIdenticalTo(&equal, nullptr), std::nullopt);
+  std::swap(choices_->at(0), choices_->at(2));
+  EXPECT_EQ(IndexOfChoiceIdenticalTo(choices_->at(2).get(), choices_.get()), 2) << "moved";
+  ppd_choice_t withoutOption{};
+  choices_->push_back(PDEChoice::choiceWithChoice(&withoutOption));
+  EXPECT_EQ(IndexOfChoiceIdenticalTo(choices_->at(3).get(), choices_.get()), 3);
 }
 
 TEST_F(Choice, PopUpShowsTheListAndOnlyTheLastOne) {
