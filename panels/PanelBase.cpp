@@ -304,7 +304,7 @@ void PanelBase::queryIntFromPPD(int *value, const char *forKey) {
 
 void PanelBase::queryDoubleFromPPD(double *value, const char *forKey) {
   PDEProlog(this, "queryDoubleFromPPD:(%s)", {forKey});
-  if (const char *marked = markedText(forKey)) *value = leadingDouble(marked);
+  if (const char *marked = markedText(forKey)) *value = atofInCLocale(marked);
   PDEEpilog(this, "queryDoubleFromPPD:(%lf)", {*value});
 }
 
