@@ -47,6 +47,11 @@ PDEChoice::PDEChoice(ppd_choice_t *choice) : choice_(choice) {
   if (isNull(choice->choice)) PDELog(this, "choice->choice is NULL!");
 }
 
+PDEChoice::~PDEChoice() {
+  userTitle_.reset();
+  ppdTitle_.reset();
+}
+
 const std::string *PDEChoice::title(std::optional<std::string> &cache,
                                     std::optional<std::string> (*make)(const ppd_choice_t &),
                                     const char *failure) const {

@@ -25,6 +25,7 @@ public:
   static std::shared_ptr<PDEChoice> choiceWithChoice(ppd_choice_t *choice);
 
   explicit PDEChoice(ppd_choice_t *choice);
+  ~PDEChoice() override;
 
   /// Returns the text shown to people, UTF-8; made once and owned by the wrapper. Null when the
   /// PPD's bytes are not valid: that is traced, and the next call tries again.

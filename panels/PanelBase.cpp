@@ -44,10 +44,9 @@ bool PanelBase::init(const std::shared_ptr<HostCallback> &callback, Bundle *bund
     row.option = ppdFindOption(ppd, row.key);
     row.choices = ArrayFromPPDOption(row.option, choiceMaker());
   }
-  for (const ValueRow &row : table_.values) {
-    row.option = ppdFindOption(ppd, row.key);
+  for (const ValueRow &row : table_.values) row.option = ppdFindOption(ppd, row.key);
+  for (const ValueRow &row : table_.values)
     std::visit([&](auto value) { *value = row.initialValue; }, row.value);
-  }
 
   if (isRefused()) {
     pdePluginCallbackObject.reset();

@@ -23,6 +23,7 @@ protected:
     trace_.take();
     const PanelList *list = plugIn_.PDEPanelsForType(type, host_);
     if (!list) return {"nil"};
+    EXPECT_EQ(list->capacity(), 3u);
     std::vector<std::string> names;
     for (const auto &panel : *list) names.emplace_back(panel->className());
     return names;
