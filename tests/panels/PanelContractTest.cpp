@@ -401,27 +401,5 @@ TEST_P(PanelContract, HostThatAnswersNothingIsHarmless) {
   EXPECT_EQ(nameless->panelName(), nullptr);
 }
 
-TEST_P(PanelContract, EveryCallLeavesTheTraceWhereItWas) {
-  make(optionsNamed(GetParam().keys));
-  host_->duringRequest = [this] {
-    const std::string key = GetParam().keys[0];
-    const std::string choice = "B";
-    panel_->PPDOptionKeyValueDidChange(&key, &choice);
-  };
-  trace_.take();
-  for (int round = 0; round < 2; ++round) {
-    panel_->shouldPrint();
-    panel_->summaryInfo();
-    panel_->supportedPPDOptionKeys();
-    panel_->panelView();
-    panel_->willShow();
-    panel_->shouldHide();
-    panel_->restoreValuesAndReturnError(nullptr);
-    panel_->saveValuesAndReturnError(nullptr);
-    const std::string line = (trace_.take(), panel_->panelKind(), trace_.take().at(0));
-    EXPECT_TRUE(line.starts_with("BEGIN self(")) << line;
-  }
-}
-
 }  // namespace
 }  // namespace kwopde::test
