@@ -102,6 +102,8 @@ TEST(MediaValues, TextAndTitleOperationsThatOnlyToolsCall) {
   std::optional<std::string> text = "old";
   on.panel->queryNSStringFromPPD(&text, "printQuality");
   EXPECT_EQ(text, "Plain");
+  EXPECT_THAT(on.trace.takeMessages(), ElementsAre("BEGIN queryNSStringFromPPD:(printQuality)",
+                                                   "END queryNSStringFromPPD:(Plain)"));
   on.panel->queryNSStringFromPPD(&text, "nothing");
   EXPECT_EQ(text, "Plain");
   on.panel->setViewTitleByTag(1, on.ppd.option("printQuality"));
