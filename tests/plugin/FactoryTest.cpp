@@ -105,7 +105,7 @@ TEST_F(Factory, TracesItsDecisions) {
   EXPECT_THAT(trace_.takeMessages(),
               testing::IsSupersetOf({std::string("LOG PPD: nil"),
                                      "LOG Creating PDE of type kPrinterModuleTypeIDStr(" + type_ +
-                                         ") ColorPDE (0x0)"}));
+                                         ") MediaPDE (0x0)"}));
 }
 
 // A second list replaces the first, which is never released; dropping the plug-in releases the
