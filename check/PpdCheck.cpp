@@ -182,17 +182,15 @@ private:
 
   void checkNumbers(ppd_option_t &option, const PanelOption &row, const Panel &panel) {
     const bool isInteger = row.kind == PanelOption::Kind::integer;
-    const auto read = [&](const char *text) {
-      return isInteger ? leadingInteger(text) : leadingDouble(text);
-    };
     for (int i = 0; i < option.num_choices; ++i) {
       const ppd_choice_t &choice = option.choices[i];
-      if (std::strcmp(choice.choice, host::kCustom) == 0 ||
-          read(choice.text) == read(choice.choice))
-        continue;
+      if (std::strcmp(choice.choice, host::kCustom) == 0) continue;
+      const double shown = isInteger ? leadingInteger(choice.text) : atofInCLocale(choice.text);
+      const double meant = isInteger ? leadingInteger(choice.choice) : leadingDouble(choice.choice);
+      if (shown == meant) continue;
       find(Severity::error, row.key, lines_.choice(row.key, choice.choice),
            fmt::format("the text of {} reads as {}, and the panel shows the text", choice.choice,
-                       read(choice.text)),
+                       shown),
            "write the number itself as the text");
     }
     checkReach(option, row, panel);

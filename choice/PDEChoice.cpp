@@ -36,15 +36,20 @@ void PDEChoice::initialize() {
 }
 
 std::shared_ptr<PDEChoice> PDEChoice::choiceWithChoice(ppd_choice_t *choice) {
-  initialize();
   return std::make_shared<PDEChoice>(choice);
 }
 
 PDEChoice::PDEChoice(ppd_choice_t *choice) : choice_(choice) {
+  initialize();
   if (!choice) return;
   // Safeguards that no record of CUPS sets off: its texts are arrays inside it.
   if (isNull(choice->text)) PDELog(this, "choice->text is NULL!");
   if (isNull(choice->choice)) PDELog(this, "choice->choice is NULL!");
+}
+
+PDEChoice::~PDEChoice() {
+  userTitle_.reset();
+  ppdTitle_.reset();
 }
 
 const std::string *PDEChoice::title(std::optional<std::string> &cache,

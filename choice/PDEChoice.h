@@ -17,7 +17,7 @@ int positionInOption(const ppd_choice_t *choice, const ppd_option_t *option);
 
 class PDEChoice : public Object {
 public:
-  /// Prepares the class; runs by itself before the first choice is made, and only once.
+  /// Prepares the class; runs by itself for the first choice, however it is made, and only once.
   static void initialize();
 
   /// Returns a wrapper of `choice`, which belongs to the open PPD and must outlive it. Nothing is
@@ -25,6 +25,7 @@ public:
   static std::shared_ptr<PDEChoice> choiceWithChoice(ppd_choice_t *choice);
 
   explicit PDEChoice(ppd_choice_t *choice);
+  ~PDEChoice() override;
 
   /// Returns the text shown to people, UTF-8; made once and owned by the wrapper. Null when the
   /// PPD's bytes are not valid: that is traced, and the next call tries again.

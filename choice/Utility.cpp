@@ -43,10 +43,15 @@ std::optional<std::string> CreateOptionTitle(const ppd_option_t *option) {
 
 std::optional<int> IndexOfChoiceIdenticalTo(const PDEChoice *choice, const ChoiceList *list) {
   if (!choice || !list) return {};
-  const int index = choice->position() - 1;
-  if (index < 0 || static_cast<std::size_t>(index) >= list->size()) return {};
-  if ((*list)[static_cast<std::size_t>(index)].get() != choice) return {};
-  return index;
+  const auto isIt = [&](const std::shared_ptr<PDEChoice> &element) {
+    return element.get() == choice;
+  };
+  // Where its record stands, as a rule, so that a long list costs nothing.
+  const auto expected = static_cast<std::size_t>(choice->position()) - 1;
+  if (expected < list->size() && isIt((*list)[expected])) return static_cast<int>(expected);
+  const auto found = std::find_if(list->begin(), list->end(), isIt);
+  if (found == list->end()) return {};
+  return static_cast<int>(found - list->begin());
 }
 
 }  // namespace kwopde

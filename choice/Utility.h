@@ -37,8 +37,7 @@ PDEChoice *FindChoiceForString(const std::string *keyword, const ChoiceList *lis
 /// null.
 std::optional<std::string> CreateOptionTitle(const ppd_option_t *option);
 
-/// Returns the index of this very object in `list`, from 0; none when it is not an element. It is
-/// looked up where the choice's record stands, not searched for.
+/// Returns the index of this very object in `list`, from 0; none when it is not an element.
 std::optional<int> IndexOfChoiceIdenticalTo(const PDEChoice *choice, const ChoiceList *list);
 
 }  // namespace kwopde

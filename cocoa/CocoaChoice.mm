@@ -19,13 +19,16 @@ struct PDEChoiceParts {
 @end
 
 @implementation PDEChoice
++ (void)initialize {
+  kwopde::PDEChoice::initialize();
+}
+
 + (id)choiceWithChoice:(ppd_choice_t *)choice {
   return [[[self alloc] initWithChoice:choice] autorelease];
 }
 
 - (id)initWithChoice:(ppd_choice_t *)choice {
   if ((self = [super init])) {
-    kwopde::PDEChoice::initialize();
     parts = new PDEChoiceParts{NativeObject<kwopde::PDEChoice>(self, choice)};
   }
   return self;

@@ -10,6 +10,8 @@ public:
   ColorPDE();
   ~ColorPDE() override { releaseChoices(); }
 
+  using PanelBase::saveDoubleToPPD;
+
   /// Replaces the string at `value` by what `FieldUI` shows. The panel has no text of its own, so
   /// it does not use it.
   void queryTextFieldFromUI(std::optional<std::string> *value, const TextField *FieldUI);

@@ -44,10 +44,9 @@ bool PanelBase::init(const std::shared_ptr<HostCallback> &callback, Bundle *bund
     row.option = ppdFindOption(ppd, row.key);
     row.choices = ArrayFromPPDOption(row.option, choiceMaker());
   }
-  for (const ValueRow &row : table_.values) {
-    row.option = ppdFindOption(ppd, row.key);
+  for (const ValueRow &row : table_.values) row.option = ppdFindOption(ppd, row.key);
+  for (const ValueRow &row : table_.values)
     std::visit([&](auto value) { *value = row.initialValue; }, row.value);
-  }
 
   if (isRefused()) {
     pdePluginCallbackObject.reset();
@@ -304,7 +303,7 @@ void PanelBase::queryIntFromPPD(int *value, const char *forKey) {
 
 void PanelBase::queryDoubleFromPPD(double *value, const char *forKey) {
   PDEProlog(this, "queryDoubleFromPPD:(%s)", {forKey});
-  if (const char *marked = markedText(forKey)) *value = leadingDouble(marked);
+  if (const char *marked = markedText(forKey)) *value = atofInCLocale(marked);
   PDEEpilog(this, "queryDoubleFromPPD:(%lf)", {*value});
 }
 

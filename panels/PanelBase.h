@@ -167,7 +167,6 @@ public:
 
   // Asking the host to mark a number, written as a choice keyword. A refusal is only traced.
   void saveIntToPPD(int value, const std::string &FieldKey);
-  void saveDoubleToPPD(double value, const std::string &FieldKey);
   void saveNSStringToPPD(const std::string &value, const std::string &FieldKey);
   void saveSettingsToPPD();
 
@@ -199,6 +198,9 @@ public:
   std::shared_ptr<View> pdeView;
 
 protected:
+  /// Like `saveIntToPPD`; the panel classes that have real numbers make it public.
+  void saveDoubleToPPD(double value, const std::string &FieldKey);
+
   explicit PanelBase(PanelTable table) : table_(std::move(table)) {}
 
   /// Makes the panel's choices; an adapter whose toolkit has objects for them says how.

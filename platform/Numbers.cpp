@@ -53,11 +53,15 @@ double leadingDouble(std::string_view text) {
   const auto read = std::from_chars(magnitude.data(), magnitude.data() + magnitude.size(), number);
   if (read.ec == std::errc::result_out_of_range) {
     // from_chars does not tell too large from too small; the C library does.
-    static const locale_t cLocale = newlocale(LC_ALL_MASK, "C", nullptr);
-    number = std::min(strtod_l(std::string(magnitude.data(), read.ptr).c_str(), nullptr, cLocale),
+    number = std::min(atofInCLocale(std::string(magnitude.data(), read.ptr).c_str()),
                       std::numeric_limits<double>::max());
   }
   return negative ? -number : number;
+}
+
+double atofInCLocale(const char *text) {
+  static const locale_t cLocale = newlocale(LC_ALL_MASK, "C", nullptr);
+  return strtod_l(text, nullptr, cLocale);
 }
 
 int truncatedInteger(double number) {

@@ -15,6 +15,11 @@ int leadingInteger(std::string_view text);
 /// a point and an optional exponent. Overflow gives the largest finite number, underflow 0.
 double leadingDouble(std::string_view text);
 
+/// Returns the number that `text` begins with as atof reads it in the C locale: hexadecimal and
+/// exponents, infinity and not-a-number by name, and infinity for overflow. 0 when it begins with
+/// none.
+double atofInCLocale(const char *text);
+
 /// `number` cut toward zero to an int; beyond the int's range its end, and 0 for not-a-number.
 int truncatedInteger(double number);
 

@@ -44,6 +44,7 @@ const PanelList *KWOPDEPlugIn::PDEPanelsForType(const std::string *type,
   // Kept: a host that asks twice may still be using the panels of its first call.
   if (PDEs) keepForever(PDEs);
   PDEs = std::make_shared<PanelList>();
+  PDEs->reserve(3);
   if (type && *type == kPrinterModuleTypeIDStr) {
     const Models ours = isExtendedModel(this, withHostInfo ? withHostInfo->ppdFile() : nullptr)
                             ? Models::extended

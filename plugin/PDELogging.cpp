@@ -1,24 +1,16 @@
 #include "plugin/PDELogging.h"
 
-#include <syslog.h>
-
 #include <cstdlib>
 #include <span>
 #include <utility>
 #include <vector>
 
 #include "platform/Escaped.h"
+#include "platform/SystemLog.h"
 
 namespace kwopde {
 
 namespace {
-
-class SystemLog final : public LogSink {
-public:
-  void writeLine(std::string_view line) override {
-    syslog(LOG_USER | LOG_DEBUG, "%.*s", static_cast<int>(line.size()), line.data());
-  }
-};
 
 /// How a line's marker stands in the call tree.
 struct Marker {

@@ -4,6 +4,7 @@
 
 #include "panels/PanelClasses.h"
 #include "platform/PlugIn.h"
+#include "platform/SystemLog.h"
 #include "plugin/KWOPDEPlugin.h"
 #include "plugin/PDELogging.h"
 #include "qt/QtBundle.h"
@@ -15,12 +16,13 @@ namespace kwopde::qt {
 
 namespace {
 
-Q_LOGGING_CATEGORY(trace, "kwopde.trace")
+Q_LOGGING_CATEGORY(trace, "kwopde.trace", QtWarningMsg)
 
-/// Qt's message handler: the terminal or the system log, as the application has it.
-class QtLog final : public LogSink {
+/// The system log, and Qt's message handler too once the category's messages are switched on.
+class QtLog final : public SystemLog {
 public:
   void writeLine(std::string_view line) override {
+    SystemLog::writeLine(line);
     qCInfo(trace, "%.*s", static_cast<int>(line.size()), line.data());
   }
 };

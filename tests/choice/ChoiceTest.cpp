@@ -1,6 +1,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cstring>
+
 #include "choice/Utility.h"
 #include "qt/QtControls.h"
 #include "tests/support/RecordingHost.h"
@@ -32,7 +34,6 @@ protected:
 TEST_F(Choice, HasTitlesAndPosition) {
   PDEChoice &fine = *choices_->at(1);
   EXPECT_EQ(*choices_->at(0)->userTitle(), "Entwurf \u00fc");
-  EXPECT_EQ(fine.userTitle(), fine.userTitle());
   EXPECT_TRUE(fine.isDefaultChoice());
   EXPECT_FALSE(choices_->at(0)->isDefaultChoice());
   TraceRecorder recorder;
@@ -41,6 +42,48 @@ TEST_F(Choice, HasTitlesAndPosition) {
                                            "marked:YES choice:2 of 3>"));
   ppd_choice_t foreign = *fine.choice();
   EXPECT_EQ(PDEChoice(&foreign).position(), 0);
+  const ppd_option_t *option = ppd_.option("quality");
+  EXPECT_EQ(positionInOption(option->choices + 2, option), 3);
+  EXPECT_EQ(positionInOption(option->choices + 3, option), 0) << "past the last";
+}
+
+TEST_F(Choice, TitlesAreMadeOnce) {
+  PDEChoice &fine = *choices_->at(1);
+  fine.userTitle();
+  fine.ppdTitle();
+  std::strcpy(fine.choice()->text, "Later");
+  std::strcpy(fine.choice()->choice, "Later");
+  EXPECT_EQ(*fine.userTitle(), "Fine %d");
+  EXPECT_EQ(*fine.ppdTitle(), "Fine");
+}
+
+// A keyword fills its field when it has 41 bytes; there is then no zero behind it.
+TEST_F(Choice, IsDefaultByAllOfTheField) {
+  ppd_option_t option{};
+  ppd_choice_t record{};
+  record.option = &option;
+  const std::string keyword(PPD_MAX_NAME, 'k');
+  keyword.copy(option.defchoice, PPD_MAX_NAME);
+  keyword.copy(record.choice, PPD_MAX_NAME);
+  std::strcpy(record.text, "differs from what is behind the default");
+  const PDEChoice choice(&record);
+  EXPECT_TRUE(choice.isDefaultChoice());
+  record.choice[PPD_MAX_NAME - 1] = 'l';
+  EXPECT_FALSE(choice.isDefaultChoice());
+}
+
+// In a process of its own, where no choice has been made yet.
+TEST(ChoiceDeathTest, FirstUsePreparesTheClass) {
+  GTEST_FLAG_SET(death_test_style, "threadsafe");
+  const auto first = [] {
+    TraceRecorder trace;
+    ppd_choice_t record{};
+    const PDEChoice choice(&record);
+    const PDEChoice second(&record);
+    const bool isRead = choice.userTitle() != nullptr;
+    return isRead && trace.take() == std::vector<std::string>{"LOG Encoding set as 4"} ? 0 : 1;
+  };
+  EXPECT_EXIT(std::_Exit(first()), testing::ExitedWithCode(0), "");
 }
 
 TEST_F(Choice, TitleThatCannotBeMadeIsNilAndTracedOnce) {
@@ -94,6 +137,13 @@ TEST_F(Choice, IndexIsThatOfTheVeryObject) {
   EXPECT_EQ(IndexOfChoiceIdenticalTo(choices_->at(2).get(), choices_.get()), 2);
   const PDEChoice equal(choices_->at(2)->choice());
   EXPECT_EQ(IndexOfChoiceIdenticalTo(&equal, choices_.get()), std::nullopt);
+  EXPECT_EQ(IndexOfChoiceIdenticalTo(nullptr, choices_.get()), std::nullopt);
+  EXPECT_EQ(IndexOfChoiceIdenticalTo(&equal, nullptr), std::nullopt);
+  std::swap(choices_->at(0), choices_->at(2));
+  EXPECT_EQ(IndexOfChoiceIdenticalTo(choices_->at(2).get(), choices_.get()), 2) << "moved";
+  ppd_choice_t withoutOption{};
+  choices_->push_back(PDEChoice::choiceWithChoice(&withoutOption));
+  EXPECT_EQ(IndexOfChoiceIdenticalTo(choices_->at(3).get(), choices_.get()), 3);
 }
 
 TEST_F(Choice, PopUpShowsTheListAndOnlyTheLastOne) {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <clocale>
+#include <cmath>
 #include <limits>
 
 namespace kwopde::test {
@@ -47,6 +48,17 @@ TEST(Numbers, LeadingDouble) {
   for (const auto &row : rows) EXPECT_EQ(leadingDouble(row.text), row.number) << row.text;
 }
 
+TEST(Numbers, AtofInTheCLocale) {
+  const double infinity = std::numeric_limits<double>::infinity();
+  const struct {
+    const char *text;
+    double number;
+  } rows[] = {{" 1.50x", 1.5}, {"-2e1", -20},       {"0x1.8p1", 3},      {"1,5", 1},
+              {"word", 0},     {"-inf", -infinity}, {"1e999", infinity}, {"1e-999", 0}};
+  for (const auto &row : rows) EXPECT_EQ(atofInCLocale(row.text), row.number) << row.text;
+  EXPECT_TRUE(std::isnan(atofInCLocale("nan")));
+}
+
 TEST(Numbers, HundredthsAreCutInDoubleArithmetic) {
   const double rows[][2] = {{1.789, 1.78},
                             {1.15, 1.14},
@@ -69,6 +81,7 @@ TEST(Numbers, AreTheSameInGerman) {
   ASSERT_TRUE(std::setlocale(LC_ALL, "de_DE.UTF-8")) << "there is no German locale here";
   ASSERT_STREQ(std::localeconv()->decimal_point, ",");
   EXPECT_EQ(leadingDouble("1.5"), 1.5);
+  EXPECT_EQ(atofInCLocale("1.5"), 1.5);
   EXPECT_EQ(shortestText(1.5), "1.5");
   (void)std::setlocale(LC_ALL, "C");
 }

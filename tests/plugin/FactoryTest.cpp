@@ -23,6 +23,7 @@ protected:
     trace_.take();
     const PanelList *list = plugIn_.PDEPanelsForType(type, host_);
     if (!list) return {"nil"};
+    EXPECT_EQ(list->capacity(), 3u);
     std::vector<std::string> names;
     for (const auto &panel : *list) names.emplace_back(panel->className());
     return names;
@@ -70,13 +71,13 @@ TEST_F(Factory, OtherTypesYieldAnEmptyListWithoutLookingAtThePpd) {
   std::string lower = type_;
   for (char &c : lower) c = static_cast<char>(std::tolower(c));
   panelsOf(kAllPanels);
-  host_->ppdFileCalls = 0;
+  host_->asked.clear();
   for (const std::string *type :
        {static_cast<const std::string *>(&lower), static_cast<const std::string *>(nullptr)}) {
     EXPECT_THAT(panels(type), IsEmpty());
     EXPECT_EQ(trace_.take().size(), 2u);
   }
-  EXPECT_EQ(host_->ppdFileCalls, 0);
+  EXPECT_THAT(host_->asked, IsEmpty());
 }
 
 TEST_F(Factory, TracesItsDecisions) {
@@ -93,12 +94,18 @@ TEST_F(Factory, TracesItsDecisions) {
                                creating + "MediaPDE (0x1)", creating + "ColorPDE (0x1)",
                                creating + "SharpenPDE (0x1)",
                                "END" + self + "PDEPanelsForType:withHostInfo:="));
+  ppd_attr_t &attribute = *ppdFindAttr(ppd_->get(), "cupsModelNumber", nullptr);
+  char *const value = std::exchange(attribute.value, nullptr);
+  EXPECT_THAT(panels(&type_), ElementsAre("MediaPDE", "ColorPDE", "SharpenPDE"));
+  EXPECT_THAT(trace_.takeMessages(),
+              testing::Contains("LOG ATTR: [cupsModelNumber][Any][Text][NULL]"));
+  attribute.value = value;
   host_ = std::make_shared<RecordingHost>(nullptr);
   EXPECT_THAT(panels(&type_), ElementsAre("nil"));
   EXPECT_THAT(trace_.takeMessages(),
               testing::IsSupersetOf({std::string("LOG PPD: nil"),
                                      "LOG Creating PDE of type kPrinterModuleTypeIDStr(" + type_ +
-                                         ") ColorPDE (0x0)"}));
+                                         ") MediaPDE (0x0)"}));
 }
 
 // A second list replaces the first, which is never released; dropping the plug-in releases the

@@ -1,8 +1,12 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <syslog.h>
+#include <unistd.h>
 
+#include <functional>
 #include <limits>
 
+#include "dialog/ModuleLoader.h"
 #include "plugin/PDELogging.h"
 #include "tests/support/RecordingHost.h"
 
@@ -83,6 +87,23 @@ TEST(Trace, FillsInArguments) {
 TEST(Trace, KeepsForeignTextsOnOneLine) {
   EXPECT_EQ(expanded("%s", {"a\nEND\r\x1B[2J\x7F\xC2\x9B|\tb\xC3\xA9\xC2\xA0"}),
             "a\\x0AEND\\x0D\\x1B[2J\\x7F\\x9B|\tb\xC3\xA9\xC2\xA0");
+}
+
+/// What `act` writes to the system log, which shows on standard error here.
+std::string systemLogOf(const std::function<void()> &act) {
+  openlog("log", LOG_PERROR, LOG_USER);
+  testing::internal::CaptureStderr();
+  act();
+  openlog(nullptr, 0, LOG_USER);
+  return testing::internal::GetCapturedStderr();
+}
+
+TEST(Trace, GoesToTheSystemLogWithTheProcess) {
+  const std::string process = "log: [" + std::to_string(getpid()) + "] ";
+  EXPECT_EQ(systemLogOf([] { PDELog(nullptr, "line"); }), process + "LOG line\n");
+  PlugInModule &module = dialog::loadModule({});
+  EXPECT_THAT(systemLogOf([&] { module.makePlugIn()->initWithBundle(nullptr); }),
+              testing::StartsWith(process + "BEGIN self(<KWOPDEPlugIn: 0x"));
 }
 
 TEST(Trace, ShowsTheAddressThatAnObjectStandsFor) {

@@ -14,17 +14,27 @@ namespace kwopde::test {
 class RecordingHost final : public HostCallback {
 public:
   explicit RecordingHost(ppd_file_t *ppd) : ppd_(ppd) {}
+  ~RecordingHost() override {
+    if (atEnd) atEnd();
+  }
 
   std::string_view className() const override { return "RecordingHost"; }
-  ppd_file_t *ppdFile() override { return ++ppdFileCalls, ppd_; }
-  bool respondsToSelector(std::string_view) const override { return handlesConstraints; }
+  ppd_file_t *ppdFile() override {
+    asked.emplace_back("ppdFile");
+    return ppd_;
+  }
+  bool respondsToSelector(std::string_view) const override {
+    asked.emplace_back("respondsToSelector");
+    return handlesConstraints;
+  }
   bool willChangePPDOptionKeyValue(const std::string *key, const std::string *choice) override;
 
   bool handlesConstraints = true;
   bool refuses = false;
   std::function<void()> duringRequest;
-  int ppdFileCalls = 0;
-  std::vector<std::string> requests;  // "KEY=CHOICE", with nil for null
+  std::function<void()> atEnd;
+  mutable std::vector<std::string> asked;  // operations without requests
+  std::vector<std::string> requests;       // "KEY=CHOICE", with nil for null
 
 private:
   ppd_file_t *ppd_;
