@@ -4,9 +4,11 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollArea>
 #include <QStyle>
 #include <QVBoxLayout>
+#include <algorithm>
 
 namespace kwopde::dialog {
 
@@ -60,7 +62,12 @@ Page::Page()
 
 QSize Page::sizeHint() const {
   // A panel's usual size, which is not known before its view is made.
-  return {fontMetrics().averageCharWidth() * 72, fontMetrics().height() * 24};
+  return {fontMetrics().averageCharWidth() * 72, fontMetrics().height() * 29};
+}
+
+QSize Page::minimumSizeHint() const {
+  return {fontMetrics().averageCharWidth() * 40,
+          std::min(fontMetrics().height() * 24, screen()->availableGeometry().height() / 2)};
 }
 
 void Page::setHeader(QWidget *header) {

@@ -19,6 +19,12 @@ public:
 
   QSize sizeHint() const override;
 
+  /// Asks for room for every panel without a scroll bar, but for no more than half the screen.
+  QSize minimumSizeHint() const override;
+
+  /// Says no: the lines that come and go do not change what the page asks for.
+  bool hasHeightForWidth() const override { return false; }
+
   /// Lets the Tab key visit the page's controls after `before`, a widget of the same window.
   void placeAfter(QWidget *before);
 
