@@ -135,6 +135,21 @@ TEST_F(Jobs, OfPrintAreThoseOfLp) {
   }
 }
 
+TEST_F(Jobs, AreOfWhatComesThroughAPipeToo) {
+  given("", "");
+  const std::string kwopde = KWOPDE_COMMAND;
+  const auto bash = [](const std::string &command) { return run("bash -c '" + command + "'"); };
+  for (const std::string &command : {"cat " + document_ + " | " + kwopde + " print -d jobs -",
+                                     kwopde + " print -d jobs <(cat " + document_ + ")"}) {
+    const Output print = bash(command);
+    ASSERT_EQ(print.status, 0) << print.text;
+    EXPECT_EQ(attributesOf(jobIn(print.text))["job-k-octets"],
+              attributesOf(jobIn(run("lp -d jobs " + document_).text))["job-k-octets"]);
+  }
+  EXPECT_THAT(bash(kwopde + " check <(cat " + ppd_ + ")").text,
+              testing::EndsWith(": Media7032PDE, ColorPDE, SharpenPDE\n"));
+}
+
 // Nothing is sent while something that was asked for would not be printed, unless somebody insists.
 TEST_F(Jobs, OfPrintAreHeldBackForWhatIsRefused) {
   const struct {
