@@ -66,7 +66,16 @@ std::string contents(const std::string &path) {
   return text.str();
 }
 
-/// What a job carries: its attributes, but for those that tell of this very job.
+/// Waits until a job went through the filters, and returns what the last of them found marked.
+std::string markedFor(int job) {
+  const std::string path =
+      std::string(std::getenv("KWOPDE_CUPS")) + "/tmp/marked-" + std::to_string(job);
+  for (int tries = 0; tries < 200 && access(path.c_str(), R_OK) != 0; ++tries) usleep(50000);
+  return contents(path);
+}
+
+/// What a job carries: its attributes, but for those that tell of this very job, and what the
+/// printer's filter finds marked.
 Attributes carriedBy(int job) {
   static const std::regex own(
       "(date-)?time-at-.*|job-(uuid|uri|id|name|state.*|printer-.*|more-info|k-octets.*|"
@@ -74,6 +83,10 @@ Attributes carriedBy(int job) {
       "compression|printer-uri");
   Attributes attributes = attributesOf(job);
   std::erase_if(attributes, [](const auto &entry) { return std::regex_match(entry.first, own); });
+  std::istringstream marked(markedFor(job));
+  for (std::string key, choice; std::getline(marked, key, '=') && std::getline(marked, choice);)
+    attributes["marked " + key] = choice;
+  EXPECT_TRUE(attributes.contains("marked pageScale"));
   return attributes;
 }
 
@@ -91,8 +104,18 @@ protected:
   void given(const std::string &saved, const std::string &serverDefaults) {
     run("rm -f ~/.cups/lpoptions $CUPS_SERVERROOT/lpoptions; lpadmin -x jobs; lpadmin -p jobs -E "
         "-v file:/dev/null -P " +
-        ppd_ + ' ' + serverDefaults);
+        written(ppd_) + ' ' + serverDefaults);
     if (!saved.empty()) run("lpoptions " + saved);
+  }
+
+  /// A copy of a PPD with our filter at the end of the chain, which the server takes from its own
+  /// folder only.
+  std::string written(const std::string &ppd) {
+    const std::string filter = std::string(std::getenv("KWOPDE_CUPS")) + "/etc/marked-filter";
+    run("install -m 755 " KWOPDE_MARKED_FILTER " " + filter);
+    return folder_.write("filtered.ppd",
+                         std::regex_replace(contents(ppd), std::regex("image/pwg-raster 0 -"),
+                                            "application/vnd.cups-pdf 0 " + filter));
   }
 
   /// The attributes of lp's job for these words.
@@ -287,8 +310,10 @@ TEST_F(DialogJobs, OfAttachedDialogsHaveThePanelsAndLeaveTheRestToQt) {
   const auto without = print(false);
   for (const auto &[key, choice] : std::initializer_list<std::pair<const char *, const char *>>{
            {"printFinish", "Glossy"}, {"pageScale", "100"}, {"rotateImage", "None"}}) {
-    EXPECT_THAT(with, Contains(Pair(key, choice)));
+    const std::string marked = std::string("marked ") + key;
+    EXPECT_THAT(with, testing::AllOf(Contains(Pair(key, choice)), Contains(Pair(marked, choice))));
     with.erase(key);
+    with[marked] = without.at(marked);
   }
   auto rest = without;
   for (const char *key : {"printFinish", "pageScale", "rotateImage"}) rest.erase(key);
