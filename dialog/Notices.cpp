@@ -1,6 +1,7 @@
 #include "dialog/Notices.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace kwopde::dialog {
 
@@ -32,7 +33,7 @@ void Notices::willAnnounce(const host::OptionChoice &change) {
 void Notices::undo() {
   const auto last = lastToUndo();
   if (last == notices_.rend()) return;
-  const Notice notice = *last;
+  const Notice notice = std::move(*last);
   notices_.erase(std::next(last).base());
   if (!notice.answer.before.empty()) session_.mark(notice.key, notice.answer.before);
   for (const auto &change : notice.answer.changes)

@@ -48,7 +48,7 @@ void SettingsDialog::accept() {
     if (!options || !presets_->save(*options)) return;
     saved_ = *options;
   }
-  QDialog::accept();
+  done(Accepted);
 }
 
 std::optional<std::vector<host::OptionChoice>> SettingsDialog::settings() {

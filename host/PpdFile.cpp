@@ -76,7 +76,8 @@ PpdFile PpdFile::read(std::FILE *file, const std::string &name) {
 }
 
 PpdFile PpdFile::readUntrimmed(std::FILE *file, const std::string &name) {
-  std::rewind(file);
+  if (std::fseek(file, 0, SEEK_SET) != 0)
+    throw Error(fmt::format("{}: {}", name, std::strerror(errno)));
   ppd_file_t *const ppd = ppdOpenFd(dup(fileno(file)));  // which closes what it is given
   if (!ppd) {
     int line = 0;

@@ -1,5 +1,6 @@
 #include "host/Stream.h"
 
+#include <fcntl.h>
 #include <fmt/format.h>
 #include <sys/mman.h>
 #include <sys/stat.h>
@@ -8,6 +9,8 @@
 #include <array>
 #include <cerrno>
 #include <cstring>
+#include <filesystem>
+#include <utility>
 
 #include "host/Error.h"
 
@@ -25,14 +28,15 @@ Stream copyOf(std::FILE *source, const std::string &name) {
   Stream copy = makeMemoryFile(name);
   std::array<char, 16384> block;
   std::size_t total = 0;
-  while (const auto size = std::fread(block.data(), 1, block.size(), source)) {
+  while (!std::feof(source)) {
+    const std::size_t size = std::fread(block.data(), 1, block.size(), source);
+    if (std::ferror(source)) throw failure(name);
     total += size;
     if (total > kMostBytes)
       throw Error(fmt::format("{}: has more than {} MB", name, kMostBytes >> 20));
     if (std::fwrite(block.data(), 1, size, copy.get()) != size) throw failure(name);
   }
-  if (std::ferror(source) || std::fflush(copy.get()) != 0) throw failure(name);
-  std::rewind(copy.get());
+  if (std::fflush(copy.get()) != 0 || std::fseek(copy.get(), 0, SEEK_SET) != 0) throw failure(name);
   return copy;
 }
 
@@ -45,22 +49,21 @@ Stream makeMemoryFile(const std::string &name) {
 }
 
 Stream openOnce(const std::string &path) {
-  Stream file(path == "-" ? fdopen(dup(STDIN_FILENO), "rb") : std::fopen(path.c_str(), "rb"));
-  struct stat kind{};
-  if (!file || fstat(fileno(file.get()), &kind) != 0) throw failure(path);
-  if (S_ISDIR(kind.st_mode)) errno = EISDIR;
-  if (S_ISDIR(kind.st_mode)) throw failure(path);
+  const int number = path == "-" ? dup(STDIN_FILENO) : ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
+  if (number < 0) throw failure(path);
+  Stream file(fdopen(number, "rb"));
+  if (!file) throw failure(path);
+  std::error_code error;
+  if (std::filesystem::is_directory(path, error))
+    throw Error(fmt::format("{}: {}", path, std::strerror(EISDIR)));
   return file;
 }
 
 Stream openRepeatable(const std::string &path) {
   Stream file = openOnce(path);
   struct stat kind{};
-  fstat(fileno(file.get()), &kind);
-  if (!S_ISREG(kind.st_mode)) return copyOf(file.get(), path);
-  if (std::getc(file.get()) == EOF && std::ferror(file.get())) throw failure(path);
-  std::rewind(file.get());
-  return file;
+  if (fstat(fileno(file.get()), &kind) != 0) throw failure(path);
+  return S_ISREG(kind.st_mode) ? std::move(file) : copyOf(file.get(), path);
 }
 
 }  // namespace kwopde::host
