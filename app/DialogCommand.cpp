@@ -7,6 +7,9 @@
 #include <QPrinter>
 #include <QTemporaryDir>
 #include <array>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <memory>
@@ -85,13 +88,18 @@ std::vector<std::string> documentFiles(const std::vector<std::string> &documents
       files.push_back(document);
       continue;
     }
-    const std::string path =
-        copies.filePath(QString::fromStdString(host::documentName(document))).toStdString();
+    // Each in a folder of its own, since two may have one name.
+    const auto folder =
+        std::filesystem::path(copies.path().toStdString()) / std::to_string(files.size());
+    std::filesystem::create_directories(folder, error);
+    const std::string path = folder / host::documentName(document);
     const host::Stream source = host::openOnce(document);
     std::ofstream copy(path, std::ios::binary);
     std::array<char, 65536> block;
     while (const auto size = std::fread(block.data(), 1, block.size(), source.get()))
       copy.write(block.data(), static_cast<std::streamsize>(size));
+    if (std::ferror(source.get()))
+      throw host::Error(fmt::format("{}: {}", document, std::strerror(errno)));
     if (!copy.flush())
       throw host::Error(fmt::format("{}: there is no room for a copy in {}", document,
                                     copies.path().toStdString()));

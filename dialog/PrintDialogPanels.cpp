@@ -2,7 +2,6 @@
 
 #include <QComboBox>
 #include <QLabel>
-#include <QPageSize>
 #include <QPrinter>
 #include <QPushButton>
 #include <QTabBar>
@@ -31,28 +30,31 @@ PrintDialogPanels::PrintDialogPanels(PlugInModule &module, QPrintDialog &dialog)
   }
   const QString printer = dialog.printer()->printerName();
   // What an earlier dialog has set on the same QPrinter is still set.
-  if (Printer *chosen = open(printer)) chosen->session->markSaved(cupsOptions(*dialog.printer()));
+  const Printer *chosen = open(printer);
+  if (chosen && chosen->session) chosen->session->markSaved(cupsOptions(*dialog.printer()));
   showPanelsOf(printer);
 }
 
 PrintDialogPanels::Printer *PrintDialogPanels::open(const QString &printer) {
   if (printer.isEmpty()) return nullptr;
   const auto known = printers_.find(printer);
-  if (known != printers_.end()) return &known->second;
+  if (known != printers_.end() && known->second.session) return &known->second;
+  Printer *opened = nullptr;
   try {
     const host::PrintQueue queue(printer.toStdString());
-    const auto session = queue.openSession();
-    session->setFixed(optionsOfQt());
-    return &(printers_[printer] = {queue.options(), session});
+    opened = &(printers_[printer] = {queue.options(), nullptr});
+    opened->session = queue.openSession();
+    opened->session->setFixed(optionsOfQt());
   } catch (const host::Error &) {
-    return nullptr;  // not a queue with a PPD: a printer that is not ours
+    // Not a queue, or one without a PPD: a printer that is not ours.
   }
+  return opened;
 }
 
 void PrintDialogPanels::showPanelsOf(const QString &printer) {
   closePages();
   printer_ = open(printer);
-  if (!printer_) return;
+  if (!printer_ || !printer_->session) return;
   pages_ = std::make_unique<PanelPages>(module_, printer_->session);
   if (!hasPanels()) return;
   presets_ = std::make_unique<PresetRow>(printer, *pages_, [this] { return settings(); }, &dialog_);
@@ -89,7 +91,9 @@ void PrintDialogPanels::switchTo(const QString &printer) {
 
 std::optional<std::vector<host::OptionChoice>> PrintDialogPanels::settings() {
   if (!settle()) return {};
-  return jobOptions().kept();
+  host::JobOptions job = jobOptions();
+  setShownOptions(dialog_, job);
+  return job.kept();
 }
 
 bool PrintDialogPanels::settle() {
@@ -118,8 +122,9 @@ QDialog *PrintDialogPanels::properties() const {
 template <class Visit>
 void PrintDialogPanels::forEachOption(Visit visit) const {
   const host::PpdSession &session = *printer_->session;
+  const auto keys = session.panelKeys();
   session.ppd().forEachOption([&](const ppd_option_t &option) {
-    if (!session.panelKeys().contains(option.keyword)) return;
+    if (!keys.contains(option.keyword)) return;
     const auto marked = session.markedChoice(option.keyword);
     for (int i = 0; marked && i < option.num_choices; ++i)
       if (*marked == option.choices[i].choice)
@@ -139,9 +144,7 @@ void PrintDialogPanels::readProperties() {
   const QDialog *dialog = properties();
   if (!hasPanels() || !dialog || dialog->result() != QDialog::Accepted) return;
   host::PpdSession &session = *printer_->session;
-  const auto *papers = dialog->findChild<QComboBox *>("pageSizeCombo");
-  if (papers)
-    session.mark("PageSize", papers->currentData().value<QPageSize>().key().toStdString());
+  if (const auto paper = shownPaper(dialog_)) session.mark("PageSize", *paper);
   const AdvancedOptions options(dialog);
   std::vector<host::OptionChoice> picked;
   forEachOption([&](const ppd_option_t &option, const QString &title, int choice) {

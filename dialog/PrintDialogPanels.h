@@ -44,10 +44,10 @@ public:
   void handOver();
 
 private:
-  /// A printer that has panels, as it was left.
+  /// A queue of the server, as it was left.
   struct Printer {
     std::vector<host::OptionChoice> destination;  // what is saved for it
-    std::shared_ptr<host::PpdSession> session;
+    std::shared_ptr<host::PpdSession> session;    // null when it has no PPD
   };
 
   Printer *open(const QString &printer);
@@ -67,7 +67,7 @@ private:
   PlugInModule &module_;
   QPrintDialog &dialog_;
   std::map<QString, Printer> printers_;  // by name, with the instance
-  Printer *printer_ = nullptr;           // the chosen one; null when it has no panels
+  Printer *printer_ = nullptr;           // the chosen one; null when it is no queue
   std::unique_ptr<PanelPages> pages_;
   std::unique_ptr<PresetRow> presets_;
   QString openTab_;  // the page that was in front, by name

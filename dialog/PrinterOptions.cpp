@@ -1,8 +1,11 @@
 #include "dialog/PrinterOptions.h"
 
+#include <QComboBox>
 #include <QDialog>
 #include <QPageRanges>
+#include <QPageSize>
 #include <QPrintEngine>
+#include <QRadioButton>
 #include <QWindow>
 #include <algorithm>
 
@@ -26,15 +29,16 @@ constexpr Neutral kOfProperties[] = {{"job-hold-until", "no-hold"},
                                      {"landscape", "false"},
                                      {"number-up", "1"}};
 
-/// How Qt, IPP and PPDs call the sides of the paper.
+/// How Qt, IPP, PPDs and Qt's dialog call the sides of the paper.
 constexpr struct {
   QPrinter::DuplexMode mode;
   const char *sides;
   const char *duplex;
-} kSides[] = {{QPrinter::DuplexNone, "one-sided", "None"},
-              {QPrinter::DuplexShortSide, "two-sided-short-edge", "DuplexTumble"},
-              {QPrinter::DuplexLongSide, "two-sided-long-edge", "DuplexNoTumble"},
-              {QPrinter::DuplexAuto, "two-sided-long-edge", "DuplexNoTumble"}};
+  const char *button;
+} kSides[] = {{QPrinter::DuplexNone, "one-sided", "None", "noDuplex"},
+              {QPrinter::DuplexShortSide, "two-sided-short-edge", "DuplexTumble", "duplexShort"},
+              {QPrinter::DuplexLongSide, "two-sided-long-edge", "DuplexNoTumble", "duplexLong"},
+              {QPrinter::DuplexAuto, "two-sided-long-edge", "DuplexNoTumble", nullptr}};
 
 const auto &sidesOf(const QPrinter &printer) {
   return *std::find_if(std::begin(kSides), std::end(kSides),
@@ -73,6 +77,20 @@ void setPrinterOptions(const QPrintDialog &dialog, host::JobOptions &job) {
     job.set("page-ranges", pages.toString().toStdString());
   for (const auto &[key, choice] : cupsOptions(printer))
     if (!choice.empty() && (seen || key == "page-set")) job.set(key, choice);
+}
+
+void setShownOptions(const QPrintDialog &dialog, host::JobOptions &job) {
+  for (const auto &[mode, sides, duplex, button] : kSides) {
+    const auto *shown = button ? dialog.findChild<QRadioButton *>(button) : nullptr;
+    if (shown && shown->isChecked()) job.set("sides", sides);
+  }
+  if (const auto paper = shownPaper(dialog)) job.set("media", *paper);
+}
+
+std::optional<std::string> shownPaper(const QPrintDialog &dialog) {
+  const auto *papers = dialog.findChild<QComboBox *>("pageSizeCombo");
+  if (!papers || !papers->currentData().canConvert<QPageSize>()) return {};
+  return papers->currentData().value<QPageSize>().key().toStdString();
 }
 
 std::string duplexChoice(const QPrinter &printer) {

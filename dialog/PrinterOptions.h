@@ -3,6 +3,7 @@
 
 #include <QPrintDialog>
 #include <QPrinter>
+#include <optional>
 #include <set>
 #include <string>
 #include <vector>
@@ -17,6 +18,14 @@ namespace kwopde::dialog {
 /// replaces a saved choice too. Properties that nobody has opened have shown nothing, and what is
 /// saved stands.
 void setPrinterOptions(const QPrintDialog &dialog, host::JobOptions &job);
+
+/// Lets `job` carry the sides and the paper that `dialog` shows now, which are not on its printer
+/// before it is accepted.
+void setShownOptions(const QPrintDialog &dialog, host::JobOptions &job);
+
+/// Returns the paper that the Properties of `dialog` show, by the PPD's name; none when nobody has
+/// opened them.
+std::optional<std::string> shownPaper(const QPrintDialog &dialog);
 
 /// Returns the choice of the PPD option Duplex that is set on `printer`.
 std::string duplexChoice(const QPrinter &printer);

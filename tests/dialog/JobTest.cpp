@@ -410,6 +410,9 @@ TEST_F(Presets, AreKeptChosenAndDeletedInTheDialog) {
   printer_.setPrinterName("jobs");
   dialog::QueueDialog dialog(dialog::loadModule(), printer_, {document_});
   setPanels(dialog);  // printFinish=Glossy, the printer's default
+  auto &sides = widget<QRadioButton>(dialog, "duplexLong");
+  sides.setEnabled(true);  // as with a printer that does it
+  sides.setChecked(true);
   const auto shown = [&] { return widget<QComboBox>(dialog, "presets").currentText(); };
   EXPECT_EQ(shown(), "My settings (changed)");
   pick(dialog, "saveAs", "Warm photo");
@@ -417,6 +420,7 @@ TEST_F(Presets, AreKeptChosenAndDeletedInTheDialog) {
   EXPECT_EQ(widget<QComboBox>(dialog, "printers").currentText(), "jobs/Warm-photo");
   EXPECT_EQ(dialog.findChild<QTabWidget *>()->currentWidget()->objectName(), "media");
   EXPECT_EQ(saved("printFinish", "jobs/Warm-photo"), "Glossy");
+  EXPECT_EQ(saved("sides", "jobs/Warm-photo"), "two-sided-long-edge");
   EXPECT_EQ(saved("printFinish"), "Matte");
   QTest::keyClick(&widget<QComboBox>(dialog, "presets"), Qt::Key_Up);
   emit widget<QComboBox>(dialog, "presets").activated(0);
@@ -427,7 +431,7 @@ TEST_F(Presets, AreKeptChosenAndDeletedInTheDialog) {
   EXPECT_EQ(widget<QComboBox>(dialog, "printFinishPopUp").currentText(), "Glossy");
   dialog.accept();
   ASSERT_TRUE(dialog.jobId());
-  auto lp = byLp("-d jobs/Warm-photo");
+  const auto lp = byLp("-d jobs/Warm-photo -o sides=one-sided");  // as Qt shows, without Duplex
   EXPECT_EQ(carriedBy(*dialog.jobId()), lp);
   dialog.show();
   pick(dialog, "delete");
