@@ -172,8 +172,7 @@ private:
            "make a listed choice the default");
       return;
     }
-    for (const auto &[other, choice] :
-         host::conflictsOf(session_->ppdFile(), option, option.defchoice))
+    for (const auto &[other, choice] : session_->constraints().of(option, option.defchoice))
       find(Severity::error, key, lines_.defaultOf(key),
            fmt::format("its default, {}, conflicts with that of {}, {}", option.defchoice, other,
                        choice),

@@ -4,13 +4,12 @@
 
 #include <algorithm>
 
-#include "host/Constraints.h"
 #include "platform/PanelInspector.h"
 
 namespace kwopde::host {
 
 PpdSession::PpdSession(PpdFile ppd, bool constraintHandling)
-    : ppd_(std::move(ppd)), constraintHandling_(constraintHandling) {}
+    : ppd_(std::move(ppd)), constraints_(ppd_.get()), constraintHandling_(constraintHandling) {}
 
 bool PpdSession::respondsToSelector(std::string_view selector) const {
   return selector == "ppdFile" || (constraintHandling_ && selector == kWillChangePPDOptionKeyValue);
@@ -35,11 +34,11 @@ Answer PpdSession::answer(const std::string *key, const std::string *requested) 
   }
 
   Answer given{Reason::granted,
-               conflictsOf(ppd_.get(), *option, wanted->keyword()),
+               constraints_.of(*option, wanted->keyword()),
                {},
                markedChoice(option->keyword).value_or("")};
   if (!given.conflicts.empty()) {
-    const auto changes = resolve(ppd_.get(), *option, wanted->keyword());
+    const auto changes = constraints_.resolve(*option, wanted->keyword());
     const auto isFixed = [this](const OptionChoice &change) {
       return fixed_.contains(change.key) && markedChoice(change.key) != change.choice;
     };
@@ -82,7 +81,7 @@ void PpdSession::markDefaults(const std::vector<OptionChoice> &queueDefaults) {
 }
 
 std::vector<OptionChoice> PpdSession::conflicts() const {
-  return allConflicts(ppd_.get());
+  return constraints_.all();
 }
 
 bool PpdSession::mark(const std::string &key, const std::string &choice) {

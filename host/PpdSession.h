@@ -10,6 +10,7 @@
 #include <utility>
 #include <vector>
 
+#include "host/Constraints.h"
 #include "host/MarkableChoice.h"
 #include "host/OptionChoice.h"
 #include "host/PpdFile.h"
@@ -102,6 +103,7 @@ public:
   void removeObserver(SessionObserver *observer) { std::erase(observers_, observer); }
 
   const PpdFile &ppd() const { return ppd_; }
+  const Constraints &constraints() const { return constraints_; }
 
   /// Returns whether an option is marked otherwise than before anybody asked for anything.
   bool isChanged() const;
@@ -135,6 +137,7 @@ private:
   void announce(const OptionChoice &change);
 
   PpdFile ppd_;
+  Constraints constraints_;
   bool constraintHandling_;
   bool refusesAll_ = false;
   const PanelList *panels_ = nullptr;

@@ -1,7 +1,10 @@
+#include <cups/cups.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <clocale>
+#include <random>
+#include <set>
 
 #include "host/Error.h"
 #include "host/JobOptions.h"
@@ -129,6 +132,58 @@ TEST(Constraints, UnresolvableRequestsAreRefusedAndChangeNothing) {
   EXPECT_EQ(on.announced.last, host::Answer::Reason::conflict);
   EXPECT_EQ(on.marked("duplex"), "Off");
   EXPECT_TRUE(on.request("quality", "Draft"));
+}
+
+// Few choices are asked about, and the answer is that of asking about every one.
+TEST(Constraints, AreThoseOfAskingAboutEveryChoice) {
+  std::mt19937 random(1);
+  const auto pick = [&](int count) {
+    return static_cast<int>(random() % static_cast<unsigned>(count));
+  };
+  int found = 0;
+  for (int round = 0; round < 60; ++round) {
+    const std::vector<std::string> words{"None", "Off", "a", "b", "c", "d"};
+    const std::vector<std::string> keys{"PageSize", "PageRegion", "x", "Y", "z", "alone"};
+    std::string text;
+    for (const auto &key : keys)
+      text += option(key, key, "a",
+                     {{"None", ""}, {"Off", ""}, {"a", ""}, {"b", ""}, {"c", ""}, {"d", ""}});
+    for (int rule = 0; rule < 6; ++rule) {
+      const auto member = [&] {
+        return "*" + keys[static_cast<std::size_t>(pick(5))] +
+               (pick(3) ? " " + words[static_cast<std::size_t>(pick(6))] : "");
+      };
+      text += round % 2 ? "*cupsUIConstraints: \"" + member() + " " + member() +
+                              (pick(2) ? " " + member() : "") + "\"\n"
+                        : "*UIConstraints: " + member() + " " + member() + "\n";
+    }
+    const PpdFile ppd = PpdFile::open(written("constraints.ppd", ppdText(text)));
+    const host::Constraints constraints(ppd.get());
+    for (const auto &key : keys)
+      ppdMarkOption(ppd.get(), key.c_str(), words[static_cast<std::size_t>(pick(6))].c_str());
+    const auto asked = [&](const std::string &key, const std::string &choice) {
+      cups_option_t *list = nullptr;
+      std::set<std::string> conflicts;
+      const int count = cupsGetConflicts(ppd.get(), key.c_str(), choice.c_str(), &list);
+      for (int i = 0; i < count; ++i) conflicts.insert(list[i].name);
+      cupsFreeOptions(count, list);
+      conflicts.erase(key);
+      return conflicts;
+    };
+    for (const auto &key : keys)
+      for (const auto &choice : words) {
+        std::set<std::string> own;
+        for (const auto &conflict : asked(key, choice))
+          for (const auto &other : words)
+            if (!asked(key, other).contains(conflict)) own.insert(conflict);
+        std::set<std::string> told;
+        for (const auto &conflict : constraints.of(*ppdFindOption(ppd.get(), key.c_str()), choice))
+          told.insert(conflict.key);
+        EXPECT_EQ(told, own) << key << ' ' << choice << '\n' << text;
+        found += static_cast<int>(own.size());
+      }
+  }
+  EXPECT_GT(found, 100);
 }
 
 TEST(Constraints, ConflictsOfOthersAreNotTheRequests) {
