@@ -20,6 +20,8 @@
 #include "choice/Utility.h"
 #include "dialog/QueueDialog.h"
 #include "headless/Headless.h"
+#include "host/PpdSession.h"
+#include "host/Stream.h"
 #include "panels/MediaPDE.h"
 #include "platform/PanelInspector.h"
 #include "plugin/KWOPDEPlugin.h"
@@ -211,6 +213,34 @@ void pick(benchmark::State &state) {
   setTraceSink(nullptr);
 }
 BENCHMARK(pick)->Arg(10)->Arg(10000);
+
+/// A request to the host for a number that no constraint names, beside 1,000 constraints of other
+/// options; the argument is whether two of those are marked against each other.
+void request(benchmark::State &state) {
+  const host::Stream file(std::tmpfile());
+  fmt::print(file.get(),
+             "*PPD-Adobe: \"4.3\"\n*FormatVersion: \"4.3\"\n"
+             "*LanguageEncoding: UTF-8\n*LanguageVersion: English\n"
+             "*OpenUI *scale/Scale: PickOne\n*Defaultscale: 100\n");
+  for (int i = 0; i <= 200; ++i) fmt::print(file.get(), "*scale {}/{}: \"\"\n", i, i);
+  fmt::print(file.get(), "*CloseUI: *scale\n");
+  for (const char *key : {"one", "two"}) {
+    fmt::print(file.get(), "*OpenUI *{}: PickOne\n*Default{}: C0\n", key, key);
+    for (int i = 0; i < 1000; ++i) fmt::print(file.get(), "*{} C{}: \"\"\n", key, i);
+    fmt::print(file.get(), "*CloseUI: *{}\n", key);
+  }
+  for (int i = 1; i < 1000; ++i)
+    fmt::print(file.get(), "*UIConstraints: *one C{} *two C{}\n", i, i);
+  host::PpdSession session(host::PpdFile::read(file.get(), "constraints.ppd"));
+  if (state.range(0) != 0) {
+    session.mark("one", "C7");
+    session.mark("two", "C7");
+  }
+  const std::string key = "scale";
+  const std::string choice = "85";
+  for (auto _ : state) session.willChangePPDOptionKeyValue(&key, &choice);
+}
+BENCHMARK(request)->Arg(0)->Arg(1);
 
 /// The stand-in pop-up of the headless toolkit, filled.
 void createAndFill(benchmark::State &state) {

@@ -15,6 +15,7 @@ void printTable(const Medians &medians, const Memory &memory) {
       {"a whole session / opening its PPD", "session", "openingThePpd", 1, 0.20},
       {"a whole session / formatting its lines", "session", "formattingItsLines", 1, 1.5},
       {"a pick among 10,000 choices / among 10", "pick/10000", "pick/10", 1, 1.2},
+      {"a request beside a conflict of others / without", "request/1", "request/0", 1, 3},
       {"create and fill per choice, 1,000 / 10", "createAndFill/1000", "createAndFill/10", 0.01,
        1.3},
       {"create and fill per choice, 100,000 / 10", "createAndFill/100000", "createAndFill/10",
