@@ -5,11 +5,15 @@
 
 namespace kwopde::app {
 
+void showAndTakePictures(QDialog &dialog, const std::string &folder) {
+  dialog.show();
+  for (const QString &file : dialog::takePictures(dialog, QString::fromStdString(folder)))
+    tell("wrote {}", file.toStdString());
+}
+
 bool runDialog(QDialog &dialog, const std::string &snapshotFolder) {
   if (snapshotFolder.empty()) return dialog.exec() == QDialog::Accepted;
-  dialog.show();
-  for (const QString &file : dialog::takePictures(dialog, QString::fromStdString(snapshotFolder)))
-    tell("wrote {}", file.toStdString());
+  showAndTakePictures(dialog, snapshotFolder);
   dialog.accept();
   return dialog.result() == QDialog::Accepted;
 }

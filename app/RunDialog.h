@@ -10,4 +10,7 @@ namespace kwopde::app {
 /// there instead, and accepts it. Returns whether it was accepted.
 bool runDialog(QDialog &dialog, const std::string &snapshotFolder);
 
+/// Shows `dialog`, takes pictures of its tabs in `folder`, and names them on standard error.
+void showAndTakePictures(QDialog &dialog, const std::string &folder);
+
 }  // namespace kwopde::app

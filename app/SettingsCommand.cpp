@@ -38,8 +38,12 @@ int settings(const SettingsOptions &options) {
   const auto sink = openTrace(options.trace);
   const host::TraceTo trace(module, sink.get());
   dialog::SettingsDialog dialog(module, queues, first);
-  if (!runDialog(dialog, options.snapshotFolder)) return kNotDone;
-  printChoices(dialog.saved());
+  if (!options.snapshotFolder.empty()) {
+    showAndTakePictures(dialog, options.snapshotFolder);
+    return kDone;
+  }
+  if (dialog.exec() != QDialog::Accepted || !dialog.saved()) return kNotDone;
+  printChoices(*dialog.saved());
   tell("saved for {}", dialog.destination().toStdString());
   return kDone;
 }
@@ -56,7 +60,7 @@ Command addSettingsCommand(CLI::App &commandLine) {
       ->type_name("QUEUE");
   command
       ->add_option("--snapshot", options->snapshotFolder,
-                   "Saves a picture of every tab there and the settings at once")
+                   "Saves a picture of every tab there, and keeps no settings")
       ->type_name("DIR");
   addTraceOption(*command, options->trace)->capture_default_str();
   return {command, [options] { return settings(*options); },

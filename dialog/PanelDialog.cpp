@@ -36,7 +36,7 @@ PanelDialog::PanelDialog(PlugInModule &module, const QString &acceptText, QWidge
 }
 
 void PanelDialog::showPanels(const std::shared_ptr<host::PpdSession> &session) {
-  const QString openTab = tabs_->count() > 0 ? tabs_->currentWidget()->objectName() : QString();
+  if (tabs_->count() > 0) openTab_ = tabs_->currentWidget()->objectName();
   pages_.reset();
   if (session) pages_ = std::make_unique<PanelPages>(module_, session);
   const auto pages = pages_ ? pages_->pages() : QList<Page *>();
@@ -45,7 +45,7 @@ void PanelDialog::showPanels(const std::shared_ptr<host::PpdSession> &session) {
     page->placeAfter(tabs_->tabBar());
   }
   for (Page *page : pages)
-    if (page->objectName() == openTab) tabs_->setCurrentWidget(page);
+    if (page->objectName() == openTab_) tabs_->setCurrentWidget(page);
   if (pages_) connect(pages_.get(), &PanelPages::asksFor, tabs_, &QTabWidget::setCurrentWidget);
   tabs_->setVisible(!pages.isEmpty());
   none_->setVisible(pages.isEmpty());

@@ -44,6 +44,7 @@ private:
   QLabel *none_;
   QTabWidget *tabs_;
   QPushButton *help_;
+  QString openTab_;  // the page that was in front, by name
   std::unique_ptr<PanelPages> pages_;
 };
 

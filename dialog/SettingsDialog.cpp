@@ -17,28 +17,37 @@ SettingsDialog::SettingsDialog(PlugInModule &module, const QStringList &queues,
   printers_->addItems(queues);
   printers_->setCurrentText(destination.section('/', 0, 0));
   facts().addRow(tr("Printer:"), printers_);
-  connect(printers_, &QComboBox::currentTextChanged, this, &SettingsDialog::showSettingsOf);
+  connect(printers_, &QComboBox::currentTextChanged, this, &SettingsDialog::switchTo);
   showSettingsOf(destination);
+}
+
+void SettingsDialog::switchTo(const QString &destination) {
+  try {
+    showSettingsOf(destination);
+  } catch (const host::Error &error) {
+    warn(this, QString::fromStdString(error.what()));
+  }
 }
 
 void SettingsDialog::showSettingsOf(const QString &destination) {
   presets_.reset();
   session_.reset();
   queue_.reset();
+  showPanels(nullptr);
   destination_ = destination;
+  queue_.emplace(destination.toStdString());
   try {
-    queue_.emplace(destination.toStdString());
     session_ = queue_->openSession();
-  } catch (const host::JobError &error) {
-    warn(this, QString::fromStdString(error.what()));
+  } catch (const host::JobError &) {
+    throw;
   } catch (const host::Error &) {
-    // Shown as a printer without panels.
+    return;  // a printer without panels
   }
   showPanels(session_);
-  if (!pages() || pages()->pages().isEmpty()) return;
+  if (pages()->pages().isEmpty()) return;
   presets_ =
       std::make_unique<PresetRow>(destination, *pages(), [this] { return settings(); }, this);
-  connect(presets_.get(), &PresetRow::chosen, this, &SettingsDialog::showSettingsOf,
+  connect(presets_.get(), &PresetRow::chosen, this, &SettingsDialog::switchTo,
           Qt::QueuedConnection);
 }
 

@@ -20,18 +20,21 @@ class SettingsDialog final : public PanelDialog {
 
 public:
   /// Shows the printer or preset `destination` ("photo/glossy") at first, and offers `queues`.
+  /// Throws `JobError` when its server does not answer.
   SettingsDialog(PlugInModule &module, const QStringList &queues, const QString &destination,
                  QWidget *parent = nullptr);
 
   /// Stays open when the settings could not be saved, and says why.
   void accept() override;
 
-  /// Returns what was saved by accepting, and for which printer or preset.
-  const std::vector<host::OptionChoice> &saved() const { return saved_; }
+  /// Returns what was saved by accepting, none when there were no panels to set, and for which
+  /// printer or preset.
+  const std::optional<std::vector<host::OptionChoice>> &saved() const { return saved_; }
   const QString &destination() const { return destination_; }
 
 private:
   void showSettingsOf(const QString &destination);
+  void switchTo(const QString &destination);
   std::optional<std::vector<host::OptionChoice>> settings();
 
   QComboBox *printers_;
@@ -39,7 +42,7 @@ private:
   std::optional<host::PrintQueue> queue_;  // none when it could not be asked
   std::shared_ptr<host::PpdSession> session_;
   std::unique_ptr<PresetRow> presets_;
-  std::vector<host::OptionChoice> saved_;
+  std::optional<std::vector<host::OptionChoice>> saved_;
 };
 
 }  // namespace kwopde::dialog

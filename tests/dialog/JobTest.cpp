@@ -447,6 +447,13 @@ TEST_F(Presets, OfTheSettingsDialogReachEveryProgram) {
   pick(dialog, "reset");
   EXPECT_EQ(widget<QLineEdit>(dialog, "pageScaleEdit").text(), "85 %") << "the queue's own default";
   QTest::keyClick(&widget<QComboBox>(dialog, "printFinishPopUp"), Qt::Key_End);
+  dialog.findChild<QTabWidget *>()->setCurrentIndex(1);
+  widget<QComboBox>(dialog, "printers").setCurrentText("kwo-basic");
+  EXPECT_EQ(dialog.findChild<QTabWidget *>()->currentIndex(), 1);
+  widget<QComboBox>(dialog, "printers").setCurrentText("jobs");
+  pick(dialog, "reset");
+  dialog.findChild<QTabWidget *>()->setCurrentIndex(0);
+  QTest::keyClick(&widget<QComboBox>(dialog, "printFinishPopUp"), Qt::Key_End);
   dialog.accept();
   EXPECT_FALSE(dialog.isVisible());
   const auto lp = byLp("-d jobs");
