@@ -55,8 +55,7 @@ bool hasShownProperties(const QPrintDialog &dialog) {
   });
 }
 
-/// Returns the pages that the dialog shows as chosen, which not every Qt hands to the printer.
-QPageRanges pagesOf(const QPrintDialog &dialog) {
+QPageRanges shownPages(const QPrintDialog &dialog) {
   const auto *pages = dialog.findChild<QRadioButton *>("pagesRadioButton");
   const auto *list = dialog.findChild<QLineEdit *>("pagesLineEdit");
   return pages && list && pages->isChecked() ? QPageRanges::fromString(list->text())
@@ -82,7 +81,7 @@ void setPrinterOptions(const QPrintDialog &dialog, host::JobOptions &job) {
   if (seen && printer.pageLayout().orientation() == QPageLayout::Landscape)
     job.set("landscape", "true");
   if (printer.pageOrder() == QPrinter::LastPageFirst) job.set("outputorder", "reverse");
-  if (const QPageRanges pages = pagesOf(dialog); !pages.isEmpty())
+  if (const QPageRanges pages = shownPages(dialog); !pages.isEmpty())
     job.set("page-ranges", pages.toString().toStdString());
   for (const auto &[key, choice] : cupsOptions(printer))
     if (!choice.empty() && (seen || key == "page-set")) job.set(key, choice);

@@ -1,6 +1,7 @@
 // What the tabs of Qt's own print dialog have set on a QPrinter, by CUPS's names.
 #pragma once
 
+#include <QPageRanges>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <optional>
@@ -26,6 +27,10 @@ void setShownOptions(const QPrintDialog &dialog, host::JobOptions &job);
 /// Returns the paper that the Properties of `dialog` show, by the PPD's name; none when nobody has
 /// opened them.
 std::optional<std::string> shownPaper(const QPrintDialog &dialog);
+
+/// Returns the pages that `dialog` shows as chosen, which not every Qt hands to the printer; empty
+/// for all.
+QPageRanges shownPages(const QPrintDialog &dialog);
 
 /// Returns the choice of the PPD option Duplex that is set on `printer`.
 std::string duplexChoice(const QPrinter &printer);

@@ -2,16 +2,14 @@
 
 #include <QCoreApplication>
 #include <QDialogButtonBox>
-#include <QLineEdit>
 #include <QMessageBox>
-#include <QPageRanges>
 #include <QPrinter>
 #include <QProgressDialog>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QScopedValueRollback>
 #include <QTabWidget>
 
+#include "dialog/PrinterOptions.h"
 #include "host/Error.h"
 #include "queue/EndingSignals.h"
 
@@ -52,10 +50,7 @@ host::PrintJob QueueDialog::job() const {
 
 void QueueDialog::accept() {
   // Qt 6.4 takes no list of pages for one unless the printer has one already.
-  const auto *pages = findChild<QRadioButton *>("pagesRadioButton");
-  const auto *list = findChild<QLineEdit *>("pagesLineEdit");
-  if (pages && list && pages->isChecked())
-    printer()->setPageRanges(QPageRanges::fromString(list->text()));
+  printer()->setPageRanges(shownPages(*this));
   QPrintDialog::accept();
 }
 

@@ -1,7 +1,6 @@
 // A person's own settings of the printers, without a document.
 #pragma once
 
-#include <map>
 #include <optional>
 #include <vector>
 
