@@ -93,7 +93,8 @@ bool runScript(const PrintOptions &options, const std::shared_ptr<host::PpdSessi
   const host::TraceTo trace(module, sink.get());
   headless::UserInput user;
   std::ostream transcript(nullptr);  // discarded: print tells of the job only
-  return script::ScriptRunner(module, session, user, transcript, std::cerr).run(source.stream());
+  return script::ScriptRunner(module, session, user, transcript, std::cerr)
+      .run(source.stream(), source.name());
 }
 
 /// Sends the job, and tells how far it is on a terminal. Returns its number; none when interrupted.

@@ -35,7 +35,7 @@ int runScript(const RunOptions &options, PlugInModule &module, UserInput &user) 
   const auto sink = options.trace.empty() ? nullptr : openTrace(options.trace);
   script::ScriptRunner runner(module, session, user, std::cout, std::cerr);
   const host::TraceTo trace(module, sink ? sink.get() : &runner);
-  return runner.run(script.stream()) ? kDone : kNotDone;
+  return runner.run(script.stream(), script.name()) ? kDone : kNotDone;
 }
 
 }  // namespace kwopde::app
