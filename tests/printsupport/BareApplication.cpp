@@ -7,6 +7,7 @@
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QPushButton>
 #include <QTabWidget>
 #include <QTextStream>
 #include <QTimer>
@@ -31,8 +32,13 @@ int main(int argc, char **argv) {
 
   QTimer::singleShot(300, dialog, [dialog] {
     QTextStream out(stdout);
-    for (const auto *tabs : dialog->findChildren<QTabWidget *>())
-      for (int i = 0; i < tabs->count(); ++i) out << tabs->tabText(i) << '\n';
+    for (auto *button : dialog->findChildren<QPushButton *>())
+      if (button->text().contains(">>")) button->click();  // the part with the tabs
+    for (auto *tabs : dialog->findChildren<QTabWidget *>())
+      for (int i = 0; i < tabs->count(); ++i) {
+        out << tabs->tabText(i) << '\n';
+        if (tabs->tabText(i) == "Media") tabs->setCurrentIndex(i);
+      }
     if (auto *field = dialog->findChild<QLineEdit *>("pageScaleEdit")) field->setText("85");
     dialog->accept();
   });

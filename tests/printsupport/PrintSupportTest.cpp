@@ -24,7 +24,7 @@ QStringList run(const QString &application, const QString &way, const QString &s
 
 int lastJob() {
   int job = 0;
-  while (!attributesOf(job + 1).empty()) ++job;
+  while (attributesOf(job + 1).count("job-id") > 0) ++job;
   return job;
 }
 
