@@ -44,6 +44,12 @@ Command settingsCommand(const Run<SettingsOptions> &run) {
           [options, run] { return run(*options); }};
 }
 
+Command portalDialogCommand(const Run<PortalDialogOptions> &run) {
+  const auto options = std::make_shared<PortalDialogOptions>();
+  return {
+      "portal-dialog", "", {traceOption(options->trace)}, [options, run] { return run(*options); }};
+}
+
 Command validateCommand(const Run<ValidateOptions> &run) {
   const auto options = std::make_shared<ValidateOptions>();
   return {"validate",

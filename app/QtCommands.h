@@ -41,11 +41,16 @@ struct ValidateOptions {
   bool json = false;
 };
 
+struct PortalDialogOptions {
+  std::string trace = "syslog";
+};
+
 /// What a command does, once its options are known; it returns the exit status.
 template <class Options>
 using Run = std::function<int(const Options &)>;
 
 Command dialogCommand(const Run<DialogOptions> &run);
+Command portalDialogCommand(const Run<PortalDialogOptions> &run);  // the portal's service uses it
 Command settingsCommand(const Run<SettingsOptions> &run);
 Command validateCommand(const Run<ValidateOptions> &run);
 

@@ -6,6 +6,7 @@
 namespace kwopde::app {
 
 int runDialogCommand(const DialogOptions &options);
+int runPortalDialogCommand(const PortalDialogOptions &options);
 int runSettingsCommand(const SettingsOptions &options);
 int runValidateCommand(const ValidateOptions &options);
 

@@ -43,6 +43,7 @@ int main(int argc, char **argv) {
     };
   };
   const auto shows = [](const auto &options) { return options.snapshotFolder.empty(); };
+  const auto always = [](const auto &) { return true; };
   const auto never = [](const auto &) { return false; };
   const auto runScriptInQt = [](const RunOptions &options) {
     qt::QtUserInput user;
@@ -50,6 +51,7 @@ int main(int argc, char **argv) {
   };
   return runCommandLine(argc, argv,
                         {dialogCommand(inApplication(runDialogCommand, shows)),
+                         portalDialogCommand(inApplication(runPortalDialogCommand, always)),
                          settingsCommand(inApplication(runSettingsCommand, shows)),
                          runCommand(inApplication(runScriptInQt, never)),
                          validateCommand(inApplication(runValidateCommand, never))});
