@@ -39,6 +39,9 @@ void notify(const QString &title, const QString &why) {
 }  // namespace
 
 PrintPortal::PrintPortal(QObject *parent) : QDBusAbstractAdaptor(parent) {
+  // The bus asks what the methods take before any of these was used.
+  qRegisterMetaType<QDBusObjectPath>();
+  qRegisterMetaType<QDBusUnixFileDescriptor>();
   idle_.setInterval(kIdle);
   connect(&idle_, &QTimer::timeout, this, [this] {
     if (requests_ == 0 && tokens_.isEmpty()) emit idle();
