@@ -5,6 +5,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include "platform/Numbers.h"
 #include "qt/QtBundle.h"
 #include "qt/QtControls.h"
 #include "tests/support/PanelFixture.h"
@@ -139,6 +140,25 @@ TEST(QtTextField, HasNumbersAsPeopleWriteThem) {
   EXPECT_EQ(field.doubleValue(), 1.78);
   field.setStringValue("100 %");
   EXPECT_EQ(line.text(), QString("100 %"));
+  // Digits are added, never cut.
+  line.setProperty("decimals", 2);
+  for (const auto &[text, shown] : {std::pair("1", "1,00"),
+                                    {"1.789", "1,789"},
+                                    {"-0.5 %", "-0,50 %"},
+                                    {"1e+20", "1e+20"},
+                                    {"abc", "abc"}}) {
+    field.setStringValue(text);
+    EXPECT_EQ(line.text(), QString(shown));
+    EXPECT_EQ(field.doubleValue(), leadingDouble(text));
+  }
+  // No language's decimal sign makes another number of it.
+  for (const char *language : {"ar_EG", "fa_IR", "de_CH", "hi_IN", "sv_SE"}) {
+    QLocale::setDefault(QLocale(language));
+    for (const double number : {1.78, -7.5}) {
+      field.setDoubleValue(number);
+      EXPECT_EQ(field.doubleValue(), number) << language << line.text().toStdString();
+    }
+  }
   QLocale::setDefault(before);
 }
 
