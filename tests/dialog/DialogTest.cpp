@@ -3,6 +3,7 @@
 
 #include <QAbstractItemView>
 #include <QAbstractSpinBox>
+#include <QAccessible>
 #include <QApplication>
 #include <QDialogButtonBox>
 #include <QLabel>
@@ -174,6 +175,8 @@ TEST_F(Dialog, StepsThroughTheNumbersThatThePrinterTakes) {
   };
   EXPECT_EQ(press(gamma, {Qt::Key_Up, Qt::Key_PageUp, Qt::Key_PageUp, Qt::Key_Down}), "1.20");
   EXPECT_EQ(widget<QSlider>("gammaSlider").value(), 1200);
+  QAccessibleInterface *told = QAccessible::queryAccessibleInterface(gamma.parentWidget());
+  EXPECT_EQ(told->valueInterface()->currentValue(), 1.2);
   auto &red = widget<QLineEdit>("redLabel");
   red.setText("99");
   EXPECT_EQ(press(red, {Qt::Key_PageUp, Qt::Key_Up}), "100");

@@ -1,5 +1,6 @@
 // Real input on real widgets, and interface files and translations that are not as they should be.
 #include <QAbstractItemView>
+#include <QAccessible>
 #include <QApplication>
 #include <QLabel>
 #include <QTemporaryDir>
@@ -99,6 +100,29 @@ TEST(QtSlider, CarriesFractionsAndRestsAtItsEnds) {
   EXPECT_EQ(slider.control.doubleValue(), 0.1);
   slider.control.setDoubleValue(std::numeric_limits<double>::quiet_NaN());
   EXPECT_EQ(slider.control.doubleValue(), 0.1);
+}
+
+TEST(NumberSlider, IsFilledFromItsNeutralAndSpeaksAsANumber) {
+  PanelOn<ColorPDE> on(option("colorMode", "C", "A", {{"A", "A"}}) +
+                       option("imageGamma", "G", "1", {{"1", "1"}}));
+  on.shown();
+  auto &slider = on.widget<QSlider>("gammaSlider");
+  const auto isFilled = [&] {
+    const QImage image = slider.grab().toImage();
+    const QRgb fill = slider.palette().color(QPalette::Highlight).rgb();
+    for (int x = 0; x < image.width(); ++x)
+      if (image.pixel(x, image.height() / 2) == fill) return true;
+    return false;
+  };
+  slider.resize(200, 30);
+  EXPECT_FALSE(isFilled());
+  QAccessibleInterface *told = QAccessible::queryAccessibleInterface(&slider);
+  ASSERT_TRUE(told && told->valueInterface());
+  EXPECT_EQ(told->text(QAccessible::Value), QString("1.00"));
+  EXPECT_EQ(told->valueInterface()->maximumValue().toDouble(), 3);
+  told->valueInterface()->setCurrentValue(2.5);  // as a person with a screen reader does
+  EXPECT_EQ(on.panel->gammaValue, 2.5);
+  EXPECT_TRUE(isFilled());
 }
 
 TEST(QtTextField, HasTheTextThatPeopleSee) {
