@@ -6,17 +6,21 @@
 #include <QStyle>
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <limits>
+#include <utility>
 
 #include "platform/Numbers.h"
 
 namespace kwopde::dialog {
 
-NumberBox::NumberBox(QLineEdit &field, TextField &text, std::optional<host::NumberRange> range)
+NumberBox::NumberBox(QLineEdit &field, TextField &text, std::optional<host::NumberRange> range,
+                     std::vector<double> only)
     : QAbstractSpinBox(field.parentWidget()),
       field_(field),
       text_(text),
       range_(range),
+      only_(std::move(only)),
       unit_(new QLabel(field.property("unit").toString(), &field)) {
   setObjectName(field.objectName() + "Box");
   setAccessibleName(field.accessibleName());
@@ -59,10 +63,19 @@ void NumberBox::setValue(double number) {
 }
 
 void NumberBox::stepBy(int steps) {
-  // In whole steps: a decimal one has no exact value.
-  const double stepsPerUnit = std::round(1 / singleStep());
-  const double next = (std::round(value() * stepsPerUnit) + steps) / stepsPerUnit;
-  setValue(std::clamp(next, minimum(), maximum()));
+  setValue(std::clamp(next(steps), minimum(), maximum()));
+}
+
+double NumberBox::next(int steps) const {
+  if (only_.empty()) {
+    // In whole steps: a decimal one has no exact value.
+    const double stepsPerUnit = std::round(1 / singleStep());
+    return (std::round(value() * stepsPerUnit) + steps) / stepsPerUnit;
+  }
+  const auto [first, behind] = std::equal_range(only_.begin(), only_.end(), value());
+  const auto from = steps > 0 ? behind - only_.begin() - 1 : first - only_.begin();
+  const auto index = std::clamp<std::ptrdiff_t>(from + steps, 0, std::ssize(only_) - 1);
+  return only_[static_cast<std::size_t>(index)];
 }
 
 QAbstractSpinBox::StepEnabled NumberBox::stepEnabled() const {

@@ -4,6 +4,7 @@
 #include <QAbstractSpinBox>
 #include <QLabel>
 #include <optional>
+#include <vector>
 
 #include "host/MarkableChoice.h"
 #include "platform/Controls.h"
@@ -26,8 +27,10 @@ class NumberBox final : public QAbstractSpinBox {
 
 public:
   /// Takes the place of `field` in its layout and in the order of the Tab key. `text` is the
-  /// panel's control for it, which lives as long. Without a range, every number can be stepped to.
-  NumberBox(QLineEdit &field, TextField &text, std::optional<host::NumberRange> range);
+  /// panel's control for it, which lives as long. Without a range, every number can be stepped to;
+  /// `only` has the only ones, in order, where those between them are not taken.
+  NumberBox(QLineEdit &field, TextField &text, std::optional<host::NumberRange> range,
+            std::vector<double> only);
 
   double value() const { return text_.doubleValue(); }
   double minimum() const;
@@ -50,11 +53,13 @@ protected:
   StepEnabled stepEnabled() const override;
 
 private:
+  double next(int steps) const;
   void placeUnit();
 
   QLineEdit &field_;
   TextField &text_;
   std::optional<host::NumberRange> range_;
+  std::vector<double> only_;
   QLabel *unit_;
 };
 

@@ -5,7 +5,9 @@
 #include <QLineEdit>
 #include <QLocale>
 #include <QSlider>
+#include <algorithm>
 #include <cmath>
+#include <vector>
 
 #include "dialog/NumberBox.h"
 
@@ -23,12 +25,26 @@ QString textOf(double number, const QWidget &control) {
   return unit.isEmpty() ? text : text + ' ' + unit;
 }
 
+/// Returns the numbers that the option lists, in order; none when it takes those between them too.
+std::vector<double> onlyNumbers(ppd_file_t *ppd, const std::string &key) {
+  const ppd_option_t *option = ppdFindOption(ppd, key.c_str());
+  if (!option || host::customLimits(ppd, *option)) return {};
+  std::vector<double> numbers;
+  for (int i = 0; i < option->num_choices; ++i)
+    if (const auto number = host::wholeNumber(option->choices[i].choice))
+      numbers.push_back(*number);
+  std::sort(numbers.begin(), numbers.end());
+  return numbers;
+}
+
 /// Lets `slider` reach all of `range`, and no more.
 void setRange(QSlider &slider, const host::NumberRange &range) {
   const double step = slider.property("step").toDouble();
   const double stepsPerUnit = step > 0 ? std::round(1 / step) : 1;
-  slider.setRange(static_cast<int>(std::ceil(range.minimum * stepsPerUnit - 0.5)),
-                  static_cast<int>(std::floor(range.maximum * stepsPerUnit + 0.5)));
+  const auto position = [&](double number) {
+    return static_cast<int>(std::round(std::clamp(number * stepsPerUnit, -1e9, 1e9)));
+  };
+  slider.setRange(position(range.minimum), position(range.maximum));
 }
 
 }  // namespace
@@ -59,7 +75,7 @@ void OptionRow::prepareMenu() {
 void OptionRow::prepareNumber() {
   auto *text = inspectorOf(panel_)->control<TextField>(option_.field);
   const auto range = session_.range(option_.key);
-  auto *box = new NumberBox(*field_, *text, range);
+  auto *box = new NumberBox(*field_, *text, range, onlyNumbers(session_.ppd().get(), option_.key));
   connect(box, &NumberBox::edited, this, &OptionRow::edited);
   connect(field_, &QLineEdit::editingFinished, this, [this] {
     if (!field_->isModified()) return;
@@ -82,9 +98,10 @@ void OptionRow::prepareNumber() {
     setRange(*slider_, *range);
     // Where the picture stays as it is, or else what the printer does unless told otherwise.
     const QVariant neutral = slider_->property("neutral");
-    if (neutral.isValid())
-      tip = tr("%1; %2 changes nothing").arg(tip, textOf(neutral.toDouble(), *field_));
-    else if (const auto byDefault = defaultNumber()) {
+    const double number = neutral.toDouble();
+    if (neutral.isValid() && number >= range->minimum && number <= range->maximum)
+      tip = tr("%1; %2 changes nothing").arg(tip, textOf(number, *field_));
+    else if (const auto byDefault = defaultNumber(); byDefault && !neutral.isValid()) {
       slider_->setProperty("neutral", *byDefault);
       tip = tr("%1; %2 is the printer's default").arg(tip, textOf(*byDefault, *field_));
     }

@@ -195,9 +195,18 @@ TEST_F(Dialog, SlidersReachWhatThePrinterTakesAndSaySo) {
   const auto &brightness = widget<QSlider>("brightnessSlider");
   EXPECT_EQ(std::pair(brightness.minimum(), brightness.maximum()), std::pair(-150, 5));
   EXPECT_EQ(brightness.toolTip(), "-150 to 5; 0 changes nothing");
+  auto &arrows = widget<QAbstractSpinBox>("brightnessLabelBox");
+  for (const auto &[steps, number] : {std::pair(1, "5"), {1, "5"}, {-2, "-150"}}) {
+    arrows.stepBy(steps);
+    EXPECT_EQ(arrows.text().toStdString(), number);
+  }
   auto &gamma = widget<QSlider>("gammaSlider");
   EXPECT_EQ(std::pair(gamma.minimum(), gamma.maximum()), std::pair(500, 4000));
   EXPECT_EQ(gamma.toolTip(), "0.50 to 4.00; 1.00 changes nothing");
+  widget<QLineEdit>("gammaLabel").setText("5");
+  dialog_->accept();
+  EXPECT_EQ(tabs_->currentWidget()->findChild<QLabel *>("notice")->text(),
+            "Gamma cannot be 5: this printer takes 0.5 to 4. The job would print 1.");
   gamma.setSliderPosition(2500);
   EXPECT_EQ(widget<QLineEdit>("gammaLabel").text(), "2.50");
   QTest::mouseDClick(&gamma, Qt::LeftButton, {}, gamma.rect().center());

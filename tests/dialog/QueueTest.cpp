@@ -220,7 +220,11 @@ TEST_F(QtDialog, IsWorkedByTheKeyboardAloneAndSeenWithoutScrolling) {
     dialog::QueueDialog dialog(dialog::loadModule(), printer_, {document("photo.txt", "photo")});
     expectUsable(dialog, 4);
     EXPECT_THAT(dialog.windowTitle().toStdString(), HasSubstr("photo.txt"));
-    EXPECT_EQ(dialog.findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok)->text(), print);
+    auto *buttons = dialog.findChild<QDialogButtonBox *>();
+    QEvent languageWasLoaded(QEvent::LanguageChange);
+    QApplication::sendEvent(buttons, &languageWasLoaded);
+    QApplication::processEvents();
+    EXPECT_EQ(buttons->button(QDialogButtonBox::Ok)->text().toStdString(), print);
     dialog::SettingsDialog settings(dialog::loadModule(), {"kwo-7032"}, "kwo-7032");
     expectUsable(settings, 4);
   };
