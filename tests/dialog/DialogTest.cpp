@@ -286,8 +286,12 @@ TEST_F(Dialog, IsWorkedByTheKeyboardAloneAndSeenWithoutScrolling) {
   check();
   EXPECT_EQ(tabs_->tabText(3), QString("Übersicht"));
   dialog_.reset();
-  const Letters large(1.5);
+  const QFont usual = QApplication::font();
+  QFont large = usual;
+  large.setPointSizeF(1.5 * usual.pointSizeF());
+  QApplication::setFont(large);
   check();
+  QApplication::setFont(usual);
 }
 
 TEST_F(Dialog, PrintingLeavesPanelsAloneThatNobodyHasSeen) {

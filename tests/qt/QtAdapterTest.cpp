@@ -107,22 +107,22 @@ TEST(NumberSlider, IsFilledFromItsNeutralAndSpeaksAsANumber) {
                        option("imageGamma", "G", "1", {{"1", "1"}}));
   on.shown();
   auto &slider = on.widget<QSlider>("gammaSlider");
-  const auto isFilled = [&] {
+  // The neutral is at 31 percent, and nothing at 95 is ever filled.
+  static_cast<QWidget *>(on.panel->pdeView->nativeView())->resize(600, 400);
+  const auto isFilled = [&](int percent) {
     const QImage image = slider.grab().toImage();
-    const QRgb fill = slider.palette().color(QPalette::Highlight).rgb();
-    for (int x = 0; x < image.width(); ++x)
-      if (image.pixel(x, image.height() / 2) == fill) return true;
-    return false;
+    const auto at = [&](int x) { return image.pixel(image.width() * x / 100, image.height() / 2); };
+    return at(percent) != at(95);
   };
-  slider.resize(200, 30);
-  EXPECT_FALSE(isFilled());
+  EXPECT_FALSE(isFilled(15));
   QAccessibleInterface *told = QAccessible::queryAccessibleInterface(&slider);
   ASSERT_TRUE(told && told->valueInterface());
   EXPECT_EQ(told->text(QAccessible::Value), QString("1.00"));
   EXPECT_EQ(told->valueInterface()->maximumValue().toDouble(), 3);
   told->valueInterface()->setCurrentValue(2.5);  // as a person with a screen reader does
   EXPECT_EQ(on.panel->gammaValue, 2.5);
-  EXPECT_TRUE(isFilled());
+  EXPECT_TRUE(isFilled(55));
+  EXPECT_FALSE(isFilled(15));
 }
 
 TEST(QtTextField, HasTheTextThatPeopleSee) {

@@ -115,14 +115,4 @@ German::~German() {
   QLocale::setDefault(before_);
 }
 
-Letters::Letters(double factor) : before_(QApplication::font()) {
-  QFont larger = before_;
-  larger.setPointSizeF(before_.pointSizeF() * factor);
-  QApplication::setFont(larger);
-}
-
-Letters::~Letters() {
-  QApplication::setFont(before_);
-}
-
 }  // namespace kwopde::test

@@ -1,7 +1,6 @@
 // A dialog as somebody meets it who has no mouse, reads German, or needs large letters.
 #pragma once
 
-#include <QFont>
 #include <QLocale>
 #include <QTranslator>
 #include <QWidget>
@@ -39,18 +38,6 @@ public:
 private:
   const QLocale before_;
   QTranslator panels_;
-};
-
-/// Letters are larger by `factor` while it lives.
-class Letters {
-public:
-  explicit Letters(double factor);
-  Letters(const Letters &) = delete;
-  Letters &operator=(const Letters &) = delete;
-  ~Letters();
-
-private:
-  const QFont before_;
 };
 
 }  // namespace kwopde::test
