@@ -6,10 +6,10 @@
 #include <string>
 #include <vector>
 
-#include "app/Command.h"
+#include "app/Commands.h"
 #include "app/Output.h"
 #include "check/PpdCheck.h"
-#include "dialog/ModuleLoader.h"
+#include "headless/Headless.h"
 #include "host/Error.h"
 
 namespace kwopde::app {
@@ -49,7 +49,7 @@ struct CheckOptions {
 };
 
 int check(const CheckOptions &options) {
-  PlugInModule &module = dialog::loadModule();
+  headless::Module module;
   int status = kDone;
   auto reports = nlohmann::json::array();
   for (const std::string &ppd : options.ppds) {
@@ -73,13 +73,13 @@ int check(const CheckOptions &options) {
 
 }  // namespace
 
-Command addCheckCommand(CLI::App &commandLine) {
+Command checkCommand() {
   const auto options = std::make_shared<CheckOptions>();
-  CLI::App *command = commandLine.add_subcommand(
-      "check", "Tells what the panels make of PPD files, and what is wrong with them");
-  command->add_flag("--json", options->json, "Writes the findings as JSON");
-  command->add_option("ppds", options->ppds, "The files")->required()->type_name("PPD");
-  return {command, [options] { return check(*options); }};
+  return {"check",
+          "Tells what the panels make of PPD files, and what is wrong with them",
+          {{"--json", &options->json, "", "Writes the findings as JSON"},
+           {"ppds", &options->ppds, "PPD", "The files", Option::Check::required}},
+          [options] { return check(*options); }};
 }
 
 }  // namespace kwopde::app

@@ -21,7 +21,11 @@ public:
   explicit ScriptSource(const std::string &name);
   std::istream &stream() { return *stream_; }
 
+  /// Returns what messages call it.
+  const std::string &name() const { return name_; }
+
 private:
+  std::string name_;
   std::ifstream file_;
   std::istream *stream_;
 };

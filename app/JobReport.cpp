@@ -1,15 +1,34 @@
 #include "app/JobReport.h"
 
+#include <nlohmann/json.hpp>
+
 #include "app/Output.h"
 
 namespace kwopde::app {
 
-void printChoices(const std::vector<host::OptionChoice> &choices) {
-  for (const auto &[key, choice] : choices) printLine("{}={}", key, choice);
+namespace {
+
+nlohmann::json toJson(const std::vector<host::OptionChoice> &choices) {
+  auto object = nlohmann::json::object();
+  for (const auto &[key, choice] : choices) object[key] = choice;
+  return object;
 }
 
-void reportSent(const host::PrintJob &job, int id) {
-  tell("sent job {}-{}", job.queue, id);
+}  // namespace
+
+void JobReport::write(bool asJson) const {
+  if (!asJson) {
+    for (const auto &[key, choice] : choices) printLine("{}={}", key, choice);
+    if (job) tell("sent job {}-{}", job->queue, id);
+    return;
+  }
+  nlohmann::json report{{"choices", toJson(choices)}};
+  if (job)
+    report["job"] = {{"id", id},
+                     {"printer", job->queue},
+                     {"title", job->title},
+                     {"options", toJson(job->options)}};
+  writeResultLine(report.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace));
 }
 
 }  // namespace kwopde::app

@@ -1,16 +1,22 @@
 // What a command tells of a job.
 #pragma once
 
+#include <optional>
 #include <vector>
 
 #include "queue/PrintJob.h"
 
 namespace kwopde::app {
 
-/// Writes the choices that a job carries to standard output, a `key=choice` line each.
-void printChoices(const std::vector<host::OptionChoice> &choices);
+/// What came of printing, or of a dialog that prints nothing.
+struct JobReport {
+  std::vector<host::OptionChoice> choices;  // those that differ from the printer's defaults
+  std::optional<host::PrintJob> job = {};   // none when nothing was sent
+  int id = 0;                               // the job's number
 
-/// Tells on standard error that `job` was sent and got the number `id`.
-void reportSent(const host::PrintJob &job, int id);
+  /// Writes the choices to standard output, a `key=choice` line each, and names the job on standard
+  /// error; or writes all of it to standard output, with what else the job carries, as JSON.
+  void write(bool asJson) const;
+};
 
 }  // namespace kwopde::app

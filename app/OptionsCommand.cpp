@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
-#include "app/Command.h"
+#include "app/Commands.h"
 #include "app/Output.h"
-#include "dialog/ModuleLoader.h"
+#include "headless/Headless.h"
 #include "host/Extension.h"
 #include "host/PpdSession.h"
 #include "host/TraceTo.h"
@@ -31,7 +31,7 @@ struct Choice {
 };
 
 /// An option that can be set with -o, and with its control where it has one.
-struct Option {
+struct PrinterOption {
   std::string key;
   std::string title;
   std::string current;
@@ -41,16 +41,16 @@ struct Option {
   std::string control;                     // "color.gammaLabel", as scripts name it
 };
 
-Option describe(const ppd_option_t &option, const host::PpdSession &session) {
+PrinterOption describe(const ppd_option_t &option, const host::PpdSession &session) {
   const host::PpdFile &ppd = session.ppd();
   const std::string key = option.keyword;
-  Option described{key,
-                   ppd.textOf(key),
-                   session.markedChoice(key).value_or(""),
-                   option.defchoice,
-                   {},
-                   session.range(key),
-                   {}};
+  PrinterOption described{key,
+                          ppd.textOf(key),
+                          session.markedChoice(key).value_or(""),
+                          option.defchoice,
+                          {},
+                          session.range(key),
+                          {}};
   for (int i = 0; !described.range && i < option.num_choices; ++i)
     described.choices.push_back(
         {option.choices[i].choice, ppd.textOf(key, option.choices[i].choice)});
@@ -58,29 +58,29 @@ Option describe(const ppd_option_t &option, const host::PpdSession &session) {
 }
 
 /// Returns the options of the PPD, in its order, with the controls of our panels.
-std::vector<Option> describeAll(const std::shared_ptr<host::PpdSession> &session) {
-  std::vector<Option> options;
+std::vector<PrinterOption> describeAll(const std::shared_ptr<host::PpdSession> &session) {
+  std::vector<PrinterOption> options;
   session->ppd().forEachOption([&](const ppd_option_t &option) {
     // Another name of PageSize, for printers that are told the paper by hand.
     if (std::string_view(option.keyword) != "PageRegion")
       options.push_back(describe(option, *session));
   });
-  PlugInModule &module = dialog::loadModule();
+  headless::Module module;
   const host::Untraced untraced(module);
   host::Extension extension(module, session);
   const PanelList *panels = extension.open();
   if (!panels) return options;
   for (const auto &panel : *panels)
     for (const PanelOption &row : optionsOf(*panel))
-      for (Option &option : options)
+      for (PrinterOption &option : options)
         if (option.key == row.key)
           option.control =
               fmt::format("{}.{}", wordOf(*panel), row.popUp.empty() ? row.field : row.popUp);
   return options;
 }
 
-void printText(const std::vector<Option> &options) {
-  for (const Option &option : options) {
+void printText(const std::vector<PrinterOption> &options) {
+  for (const PrinterOption &option : options) {
     printLine("{}={}  {}{}", option.key, option.current, option.title,
               option.current == option.usual ? "" : fmt::format(" (usually {})", option.usual));
     if (option.range) printLine("    {} to {}", option.range->minimum, option.range->maximum);
@@ -90,9 +90,9 @@ void printText(const std::vector<Option> &options) {
   }
 }
 
-nlohmann::json toJson(const std::vector<Option> &options) {
+nlohmann::json toJson(const std::vector<PrinterOption> &options) {
   auto list = nlohmann::json::array();
-  for (const Option &option : options) {
+  for (const PrinterOption &option : options) {
     nlohmann::json entry{{"key", option.key},
                          {"title", option.title},
                          {"current", option.current},
@@ -124,16 +124,15 @@ int listOptions(const OptionsOptions &options) {
 
 }  // namespace
 
-Command addOptionsCommand(CLI::App &commandLine) {
+Command optionsCommand() {
   const auto options = std::make_shared<OptionsOptions>();
-  CLI::App *command = commandLine.add_subcommand(
-      "options", "Lists what can be set for a printer with -o, and what is set now");
-  auto *ppd = command->add_option("--ppd", options->ppd, "A printer's PPD file")->type_name("FILE");
-  command->add_option("--printer,-d", options->printer, "A printer queue, or an instance of it")
-      ->type_name("QUEUE")
-      ->excludes(ppd);
-  command->add_flag("--json", options->json, "Writes the list as JSON");
-  return {command, [options] { return listOptions(*options); }};
+  return {"options",
+          "Lists what can be set for a printer with -o, and what is set now",
+          {{"--ppd", &options->ppd, "FILE", "A printer's PPD file"},
+           {"--printer,-d", &options->printer, "QUEUE", "A printer queue, or an instance of it",
+            Option::Check::none, "--ppd"},
+           {"--json", &options->json, "", "Writes the list as JSON"}},
+          [options] { return listOptions(*options); }};
 }
 
 }  // namespace kwopde::app

@@ -1,7 +1,6 @@
 #include <fmt/format.h>
 #include <unistd.h>
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <cstdio>
 #include <iostream>
@@ -13,19 +12,18 @@
 #include <utility>
 #include <vector>
 
-#include "app/Command.h"
+#include "app/Commands.h"
 #include "app/Files.h"
 #include "app/JobReport.h"
 #include "app/Output.h"
 #include "app/TraceOption.h"
-#include "dialog/ModuleLoader.h"
+#include "headless/Headless.h"
 #include "host/CupsOptions.h"
 #include "host/Error.h"
 #include "host/JobOptions.h"
 #include "host/PpdSession.h"
 #include "host/Refusals.h"
 #include "host/TraceTo.h"
-#include "qt/QtUserInput.h"
 #include "queue/EndingSignals.h"
 #include "queue/PrintJob.h"
 #include "queue/PrintQueue.h"
@@ -45,6 +43,7 @@ struct PrintOptions {
   bool force = false;                // print although something was refused
   std::vector<std::string> documents;
   std::string trace = "syslog";
+  bool json = false;
 };
 
 /// Returns how many letters have to be changed, put in or taken out to make `b` of `a`.
@@ -86,15 +85,16 @@ void apply(const std::string &words, host::PpdSession &session, host::JobOptions
   }
 }
 
-/// Runs the script on the panels of the module. Returns whether all of it could be run.
+/// Runs the script on panels without a screen. Returns whether all of it could be run.
 bool runScript(const PrintOptions &options, const std::shared_ptr<host::PpdSession> &session) {
   ScriptSource source(options.script);
-  PlugInModule &module = dialog::loadModule();
+  headless::Module module;
   const auto sink = openTrace(options.trace);
   const host::TraceTo trace(module, sink.get());
-  qt::QtUserInput user;
+  headless::UserInput user;
   std::ostream transcript(nullptr);  // discarded: print tells of the job only
-  return script::ScriptRunner(module, session, user, transcript, std::cerr).run(source.stream());
+  return script::ScriptRunner(module, session, user, transcript, std::cerr)
+      .run(source.stream(), source.name());
 }
 
 /// Sends the job, and tells how far it is on a terminal. Returns its number; none when interrupted.
@@ -139,43 +139,33 @@ int print(const PrintOptions &options) {
     tell("kwopde: cancelled; the printer has no job");
     return kNotDone;
   }
-  printChoices(carried.chosen());
-  reportSent(job, *id);
+  JobReport{carried.chosen(), job, *id}.write(options.json);
   return kDone;
 }
 
 }  // namespace
 
-Command addPrintCommand(CLI::App &commandLine) {
+Command printCommand() {
   const auto options = std::make_shared<PrintOptions>();
-  CLI::App *command = commandLine.add_subcommand(
-      "print", "Sends documents to a queue as one job, without a dialog");
-  command
-      ->add_option("--printer,-d", options->printer,
-                   "The queue, or an instance of it (QUEUE/NAME); else the default one")
-      ->type_name("QUEUE");
-  command
-      ->add_option("--script", options->script,
-                   "Sets the panels by this script first; - is standard input")
-      ->type_name("SCRIPT");
-  command
-      ->add_option("-o", options->options,
-                   "An option of the printer, or an attribute of the job such as sides=one-sided; "
-                   "as lp takes it")
-      ->type_name("KEY=CHOICE")
-      ->allow_extra_args(false);
-  command->add_option("--copies,-n", options->copies, "How many copies")
-      ->type_name("N")
-      ->check(CLI::PositiveNumber);
-  command->add_option("--pages,-P", options->pages, "The pages: 1-4,7")->type_name("LIST");
-  command->add_option("--title,-t", options->title, "The job's title")->type_name("TITLE");
-  command->add_flag("--force", options->force,
-                    "Prints although an option was refused or had to give way");
-  addTraceOption(*command, options->trace)->capture_default_str();
-  command->add_option("documents", options->documents, "What to print; - is standard input")
-      ->required()
-      ->type_name("DOCUMENT");
-  return {command, [options] { return print(*options); }};
+  return {
+      "print",
+      "Sends documents to a queue as one job, without a dialog",
+      {{"--printer,-d", &options->printer, "QUEUE",
+        "The queue, or an instance of it (QUEUE/NAME); else the default one"},
+       {"--script", &options->script, "SCRIPT",
+        "Sets the panels by this script first; - is standard input"},
+       {"-o", &options->options, "KEY=CHOICE",
+        "An option of the printer, or an attribute of the job such as sides=one-sided; as lp "
+        "takes it"},
+       {"--copies,-n", &options->copies, "N", "How many copies", Option::Check::positive},
+       {"--pages,-P", &options->pages, "LIST", "The pages: 1-4,7"},
+       {"--title,-t", &options->title, "TITLE", "The job's title"},
+       {"--force", &options->force, "", "Prints although an option was refused or had to give way"},
+       traceOption(options->trace),
+       {"--json", &options->json, "", "Writes the job and what it carries as JSON"},
+       {"documents", &options->documents, "DOCUMENT", "What to print; - is standard input",
+        Option::Check::required}},
+      [options] { return print(*options); }};
 }
 
 }  // namespace kwopde::app

@@ -1,55 +1,41 @@
+#include "app/RunCommand.h"
+
 #include <iostream>
 #include <memory>
 #include <string>
 
-#include "app/Command.h"
 #include "app/Files.h"
 #include "app/TraceOption.h"
-#include "dialog/ModuleLoader.h"
 #include "host/PpdSession.h"
 #include "host/TraceTo.h"
-#include "qt/QtUserInput.h"
 #include "script/ScriptRunner.h"
 
 namespace kwopde::app {
 
-namespace {
+Command runCommand(const std::function<int(const RunOptions &)> &run) {
+  const auto options = std::make_shared<RunOptions>();
+  Option trace = traceOption(options->trace);
+  trace.description += "; else into the transcript";
+  return {"run",
+          "Drives the panels by a script, without a display, and writes a transcript",
+          {{"--ppd", &options->ppd, "FILE", "The printer's PPD file", Option::Check::required},
+           {"--no-constraint-handling", &options->noConstraintHandling, "",
+            "Acts as a host that marks nothing on request"},
+           {"--toolkit", &options->toolkit, "qt|headless",
+            "What the panels' controls are: Qt's, or plain values"},
+           trace,
+           {"script", &options->script, "SCRIPT", "The script; - is standard input"}},
+          [options, run] { return run(*options); }};
+}
 
-struct RunOptions {
-  std::string ppd;
-  bool noConstraintHandling = false;
-  std::string script = "-";  // "-": standard input
-  std::string trace;         // empty: into the transcript
-};
-
-int run(const RunOptions &options) {
+int runScript(const RunOptions &options, PlugInModule &module, UserInput &user) {
   auto session = std::make_shared<host::PpdSession>(host::PpdFile::open(options.ppd),
                                                     !options.noConstraintHandling);
   ScriptSource script(options.script);
-  PlugInModule &module = dialog::loadModule();
-  qt::QtUserInput user;
   const auto sink = options.trace.empty() ? nullptr : openTrace(options.trace);
   script::ScriptRunner runner(module, session, user, std::cout, std::cerr);
   const host::TraceTo trace(module, sink ? sink.get() : &runner);
-  return runner.run(script.stream()) ? kDone : kNotDone;
-}
-
-}  // namespace
-
-Command addRunCommand(CLI::App &commandLine) {
-  const auto options = std::make_shared<RunOptions>();
-  CLI::App *command = commandLine.add_subcommand(
-      "run", "Drives the panels by a script, without a display, and writes a transcript");
-  command->add_option("--ppd", options->ppd, "The printer's PPD file")
-      ->required()
-      ->type_name("FILE");
-  command->add_flag("--no-constraint-handling", options->noConstraintHandling,
-                    "Acts as a host that marks nothing on request");
-  addTraceOption(*command, options->trace)->default_str("the transcript");
-  command->add_option("script", options->script, "The script; - is standard input")
-      ->type_name("SCRIPT")
-      ->capture_default_str();
-  return {command, [options] { return run(*options); }};
+  return runner.run(script.stream(), script.name()) ? kDone : kNotDone;
 }
 
 }  // namespace kwopde::app

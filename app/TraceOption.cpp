@@ -1,9 +1,14 @@
 #include "app/TraceOption.h"
 
+#include <fmt/format.h>
 #include <spdlog/logger.h>
 #include <spdlog/sinks/basic_file_sink.h>
 #include <spdlog/sinks/stdout_sinks.h>
 #include <spdlog/sinks/syslog_sink.h>
+
+#include <cerrno>
+#include <cstring>
+#include <fstream>
 
 #include "app/Output.h"
 #include "host/Error.h"
@@ -32,15 +37,17 @@ spdlog::sink_ptr sinkFor(const std::string &where) {
   if (where == "stderr") return std::make_shared<spdlog::sinks::stderr_sink_st>();
   if (where == "syslog")
     return std::make_shared<spdlog::sinks::syslog_sink_st>("kwopde", LOG_PID, LOG_USER, false);
+  // The library would make the folder.
+  if (!std::ofstream(where, std::ios::app))
+    throw host::Error(fmt::format("{}: {}", where, std::strerror(errno)));
   return std::make_shared<spdlog::sinks::basic_file_sink_st>(where);
 }
 
 }  // namespace
 
-CLI::Option *addTraceOption(CLI::App &command, std::string &where) {
-  return command
-      .add_option("--trace", where, "Where the trace goes: stderr, syslog, or a file to append to")
-      ->type_name("FILE|stderr|syslog");
+Option traceOption(std::string &where) {
+  return {"--trace", &where, "FILE|stderr|syslog",
+          "Where the trace goes: stderr, syslog, or a file to append to"};
 }
 
 std::unique_ptr<LogSink> openTrace(const std::string &where) {

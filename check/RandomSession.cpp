@@ -157,7 +157,7 @@ int runSession(const Subject &subject, const std::string &script, std::ostream &
   for (std::string line; std::getline(lines, line);) {
     log << line << '\n' << std::flush;
     std::istringstream command(line);
-    const bool wasRun = runner.run(command);
+    const bool wasRun = runner.run(command, "session");
     if (wasRun) ++count;
     if (trace.depth() != 0)
       throw CheckFailed(fmt::format("the trace is left at depth {} by: {}", trace.depth(), line));

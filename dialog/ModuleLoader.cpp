@@ -27,11 +27,8 @@ QString ownFolder() {
 
 QString usualModule() {
   if (QString named = qEnvironmentVariable("KWOPDE_MODULE"); !named.isEmpty()) return named;
-  const QString program = QCoreApplication::applicationDirPath();
-  const QString installed = program + "/" KWOPDE_LIBRARIES_FROM_PROGRAMS "/kwopde";
-  for (const QString &folder : {program, installed, ownFolder() + "/kwopde"})
-    if (QFile::exists(folder + kFileName)) return folder + kFileName;
-  return installed + kFileName;
+  const QString beside = QCoreApplication::applicationDirPath() + kFileName;
+  return QFile::exists(beside) ? beside : ownFolder() + "/kwopde" + kFileName;
 }
 
 }  // namespace

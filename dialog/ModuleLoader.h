@@ -9,7 +9,7 @@ namespace kwopde::dialog {
 
 /// Returns the extension in `file`, or with an empty name the one that belongs to this program:
 /// what the environment variable KWOPDE_MODULE names, else the one beside the program, else the one
-/// that was installed with the program or with the library that this is part of. It stays loaded
+/// in the folder kwopde beside the library that this is part of. It stays loaded
 /// for the rest of the process. Throws `host::Error` when there is none, or when it was built for
 /// another version of the contract.
 PlugInModule &loadModule(const QString &file = {});

@@ -97,7 +97,9 @@ void setShownOptions(const QPrintDialog &dialog, host::JobOptions &job) {
 
 std::optional<std::string> shownPaper(const QPrintDialog &dialog) {
   const auto *papers = dialog.findChild<QComboBox *>("pageSizeCombo");
-  if (!papers || !papers->currentData().canConvert<QPageSize>()) return {};
+  // Accepting makes them too, for nobody to see.
+  if (!papers || !papers->window()->testAttribute(Qt::WA_WState_Polished)) return {};
+  if (!papers->currentData().canConvert<QPageSize>()) return {};
   return papers->currentData().value<QPageSize>().key().toStdString();
 }
 

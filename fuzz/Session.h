@@ -21,7 +21,7 @@ inline void runScript(std::shared_ptr<host::PpdSession> session, const std::stri
   script::ScriptRunner runner(module, std::move(session), user, out, errors);
   const host::TraceTo trace(module, &runner);
   std::istringstream commands(script);
-  runner.run(commands);
+  runner.run(commands, "commands");
 }
 
 }  // namespace kwopde::fuzz

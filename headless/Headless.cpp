@@ -1,6 +1,8 @@
 #include "headless/Headless.h"
 
 #include <algorithm>
+#include <cmath>
+#include <iterator>
 
 #include "panels/PanelClasses.h"
 #include "platform/MenuItems.h"
@@ -56,17 +58,40 @@ private:
   int selected_ = -1;
 };
 
+/// How far a slider reaches, and in which steps it stands.
+struct SliderRange {
+  std::string_view outlet;
+  double minimum;
+  double maximum;
+  double stepsPerUnit = 1;
+};
+
+/// As in the interface files. Any other slider is one of a percentage about 0.
+constexpr SliderRange kSliderRanges[] = {
+    {"amountSlider", 0, 500},      {"radiusSlider", 0, 50}, {"thresholdSlider", 0, 255},
+    {"gammaSlider", 0.1, 3, 1000}, {"", -100, 100},
+};
+
 class HeadlessSlider final : public Control<Slider> {
 public:
+  explicit HeadlessSlider(std::string_view outlet)
+      : range_(*std::find_if(std::begin(kSliderRanges), std::end(kSliderRanges) - 1,
+                             [&](const SliderRange &range) { return range.outlet == outlet; })) {
+    setDoubleValue(0);
+  }
   std::string_view className() const override { return "HeadlessSlider"; }
   double doubleValue() const override { return value_; }
   void setDoubleValue(double value) override {
-    if (value == value) value_ = std::clamp(value, minValue(), maxValue());
+    if (std::isnan(value)) return;
+    const double step =
+        std::round(std::clamp(value, range_.minimum, range_.maximum) * range_.stepsPerUnit);
+    value_ = step / range_.stepsPerUnit;
   }
-  double minValue() const override { return -10; }
-  double maxValue() const override { return 10; }
+  double minValue() const override { return range_.minimum; }
+  double maxValue() const override { return range_.maximum; }
 
 private:
+  const SliderRange &range_;
   double value_ = 0;
 };
 
@@ -102,7 +127,8 @@ public:
       if (!option.popUp.empty())
         add(option.popUp, std::make_shared<HeadlessPopUp>())->setAction(owner, option.action);
       if (!option.slider.empty())
-        add(option.slider, std::make_shared<HeadlessSlider>())->setAction(owner, option.action);
+        add(option.slider, std::make_shared<HeadlessSlider>(option.slider))
+            ->setAction(owner, option.action);
       if (!option.field.empty()) add(option.field, std::make_shared<HeadlessField>());
     }
     // What is left belongs to no option: captions.

@@ -1,5 +1,5 @@
 // A toolkit without a screen: its controls are plain values. For running the extension where no
-// widgets are wanted, in the fuzzers and the benchmarks.
+// widgets are wanted: by the commands that show nothing, in the fuzzers and the benchmarks.
 #pragma once
 
 #include <memory>
@@ -12,7 +12,8 @@
 namespace kwopde::headless {
 
 /// The extension's module on this toolkit. Every panel gets every control that it asks for, so
-/// there are no interface files; its sliders reach from -10 to 10. Texts are their keys.
+/// there are no interface files; sliders reach as far as in those of the other toolkits. Texts are
+/// their keys.
 class Module final : public PlugInModule, public ModuleInspector {
 public:
   Module();

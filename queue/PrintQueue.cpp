@@ -60,13 +60,17 @@ PrintQueue::PrintQueue(const std::string &name) {
   cupsFreeDests(1, dest);
 }
 
-std::vector<std::string> PrintQueue::names() {
+std::vector<std::string> PrintQueue::names(std::string_view models) {
   CupsConnection server;
   expectAnswer(server);
   cups_dest_t *list = nullptr;
   const int count = cupsGetDests2(server.get(), &list);
   std::set<std::string> names;
-  for (const cups_dest_t *dest = list; dest != list + count; ++dest) names.insert(dest->name);
+  for (const cups_dest_t *dest = list; dest != list + count; ++dest) {
+    const char *const model =
+        cupsGetOption("printer-make-and-model", dest->num_options, dest->options);
+    if (std::string_view(model ? model : "").starts_with(models)) names.insert(dest->name);
+  }
   cupsFreeDests(count, list);
   return {names.begin(), names.end()};
 }

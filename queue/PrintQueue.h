@@ -3,6 +3,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "host/PpdSession.h"
@@ -16,9 +17,9 @@ public:
   /// when there is no server or it does not answer.
   explicit PrintQueue(const std::string &name);
 
-  /// Returns the names of the queues that the server has, in order. Throws `JobError` when it does
-  /// not answer.
-  static std::vector<std::string> names();
+  /// Returns the names of the queues that the server has, in order; with `models`, of those whose
+  /// make and model begin so. Throws `JobError` when it does not answer.
+  static std::vector<std::string> names(std::string_view models = {});
 
   /// Returns the name on the server, without an instance.
   const std::string &name() const { return name_; }

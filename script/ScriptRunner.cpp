@@ -103,10 +103,11 @@ struct ScriptRunner::Command {
 };
 
 const ScriptRunner::Command ScriptRunner::kCommands[] = {
-    {"pick", 2, 2, &ScriptRunner::pick},         {"slide", 2, 2, &ScriptRunner::slide},
-    {"type", 2, 2, &ScriptRunner::type},         {"controls", 1, 1, &ScriptRunner::showControls},
-    {"mark", 2, 2, &ScriptRunner::mark},         {"refuse", 1, 1, &ScriptRunner::refuse},
-    {"marked", 0, 1, &ScriptRunner::showMarked}, {"release", 0, 0, &ScriptRunner::release},
+    {"set", 2, 2, &ScriptRunner::set},         {"pick", 2, 2, &ScriptRunner::pick},
+    {"slide", 2, 2, &ScriptRunner::slide},     {"type", 2, 2, &ScriptRunner::type},
+    {"mark", 2, 2, &ScriptRunner::mark},       {"controls", 1, 1, &ScriptRunner::showControls},
+    {"refuse", 1, 1, &ScriptRunner::refuse},   {"marked", 0, 1, &ScriptRunner::showMarked},
+    {"release", 0, 0, &ScriptRunner::release},
 };
 
 const ScriptRunner::Command ScriptRunner::kPlugInOperations[] = {
@@ -115,11 +116,13 @@ const ScriptRunner::Command ScriptRunner::kPlugInOperations[] = {
 };
 
 std::string ScriptRunner::initWithBundle(const std::vector<Word> &) {
+  isInitialised_ = true;
   return yesOrNo(extension().plugIn().initWithBundle(extension().bundle()));
 }
 
 std::string ScriptRunner::PDEPanelsForType(const std::vector<Word> &words) {
   const Word type = words.size() > 1 ? words[1] : Word(kPrinterModuleTypeIDStr);
+  isAsked_ = true;
   const PanelList *panels = extension().ask(pointerTo(type));
   if (!panels) return "nil";
   std::vector<std::string> classes;
@@ -143,7 +146,7 @@ ScriptRunner::~ScriptRunner() {
   session_->removeObserver(this);
 }
 
-bool ScriptRunner::run(std::istream &script) {
+bool ScriptRunner::run(std::istream &script, const std::string &name) {
   bool good = true;
   std::string line;
   for (int number = 1; std::getline(script, line); ++number) {
@@ -155,7 +158,7 @@ bool ScriptRunner::run(std::istream &script) {
       printLine(out_, "= {}", result);
     } catch (const host::Error &error) {
       out_.flush();
-      printLine(errors_, "error: {}: {}", number, error.what());
+      printLine(errors_, "error: {}:{}: {}", name, number, error.what());
       good = false;
     }
   }
@@ -208,13 +211,22 @@ const PanelList *ScriptRunner::panels() const {
   return extension_ ? extension_->panels() : nullptr;
 }
 
+void ScriptRunner::open() {
+  if (panels()) return;
+  if (!isInitialised_) initWithBundle({});
+  PDEPanelsForType({std::nullopt});
+}
+
 Panel &ScriptRunner::panel(std::string_view word) const {
   if (panels())
     for (const auto &panel : *panels())
       if (wordOf(*panel) == word) return *panel;
   const auto words = panelWords(module_);
   if (words.empty() || std::find(words.begin(), words.end(), word) != words.end())
-    throw host::Error(fmt::format("there is no {} panel", word));
+    throw host::Error(fmt::format("there is no {} panel: {}", word,
+                                  !extension_ ? "the plug-in has been released"
+                                  : isAsked_  ? "the PPD has none of its options"
+                                              : "plugin.PDEPanelsForType has not been called"));
   throw host::Error(fmt::format("\"{}\" is not a panel: {} or {}", word,
                                 fmt::join(words.begin(), words.end() - 1, ", "), words.back()));
 }
@@ -223,22 +235,72 @@ template <class Control>
 Control &ScriptRunner::control(const Word &word, std::string_view kind) const {
   const std::string name = nameOf(word);
   const auto point = std::min(name.find('.'), name.size());
-  const PanelInspector *inspector = inspectorOf(panel(name.substr(0, point)));
-  View *const view =
-      inspector ? inspector->control(name.substr(std::min(point + 1, name.size()))) : nullptr;
-  if (!view) throw host::Error(fmt::format("there is no control {}", name));
-  auto *control = dynamic_cast<Control *>(view);
+  const std::string panelName = name.substr(0, point);
+  const std::string outlet = name.substr(std::min(point + 1, name.size()));
+  const auto controls = controlsOf(panel(panelName));
+  const auto found = std::find_if(controls.begin(), controls.end(),
+                                  [&](const PanelControl &row) { return row.outlet == outlet; });
+  if (found == controls.end())
+    throw host::Error(
+        fmt::format("there is no control {}: \"controls {}\" lists them", name, panelName));
+  if (!found->control)
+    throw host::Error(
+        fmt::format("{} is not there: {}.panelView has not been called", name, panelName));
+  auto *control = dynamic_cast<Control *>(found->control);
   if (!control) throw host::Error(fmt::format("{} is not a {}", name, kind));
   if (!control->isEnabled()) throw host::Error(fmt::format("{} is disabled", name));
   return *control;
 }
 
+std::string ScriptRunner::set(const std::vector<Word> &words) {
+  const std::string key = nameOf(words[1]);
+  open();
+  std::vector<std::string> keys;
+  for (const auto &panel : panels() ? *panels() : PanelList())
+    for (const PanelOption &option : optionsOf(*panel)) {
+      keys.push_back(option.key);
+      if (option.key != key) continue;
+      const bool isChoice = option.kind == PanelOption::Kind::choice;
+      const Word outlet =
+          fmt::format("{}.{}", wordOf(*panel), isChoice ? option.popUp : option.field);
+      // It shows what is marked now: hiding it saves all of its numbers.
+      panel->restoreValuesAndReturnError(nullptr);
+      panel->panelView();
+      panel->willShow();
+      if (isChoice) return pick({words[0], outlet, words[2]});
+      type({words[0], outlet, words[2]});
+      panel->shouldHide();
+      return "void";
+    }
+  throw host::Error(fmt::format("no panel sets {}: they set {}", key, fmt::join(keys, ", ")));
+}
+
+int ScriptRunner::itemIndex(const Menu &menu, const std::string &name,
+                            const std::string &item) const {
+  int index = 0;
+  const auto read = std::from_chars(item.data(), item.data() + item.size(), index);
+  if (read.ec == std::errc() && read.ptr == item.data() + item.size() && menu.itemAtIndex(index))
+    return index;
+  // The text of the choice that has this keyword, if it is one.
+  const auto point = name.find('.');
+  std::string text;
+  for (const PanelOption &option : optionsOf(panel(name.substr(0, point))))
+    if (option.popUp == name.substr(point + 1))
+      if (ppd_option_t *record = ppdFindOption(session_->ppdFile(), option.key.c_str()))
+        if (const ppd_choice_t *choice = ppdFindChoice(record, item.c_str())) text = choice->text;
+  for (index = 0; const MenuItem *shown = menu.itemAtIndex(index); ++index)
+    if (shown->title == item || (!text.empty() && shown->title == text)) return index;
+  return -1;
+}
+
 std::string ScriptRunner::pick(const std::vector<Word> &words) {
   auto &popUp = control<PopUpButton>(words[1], "pop-up menu");
-  const int index = number<int>(words[2]);
   const Menu *menu = popUp.menu();
-  if (!menu || !menu->itemAtIndex(index))
-    throw host::Error(fmt::format("{} has no item {}", *words[1], index));
+  if (!menu || !menu->itemAtIndex(0))
+    throw host::Error(fmt::format("{} has no items: {}.willShow has not been called", *words[1],
+                                  words[1]->substr(0, words[1]->find('.'))));
+  const int index = itemIndex(*menu, *words[1], nameOf(words[2]));
+  if (index < 0) throw host::Error(fmt::format("{} has no item {}", *words[1], nameOf(words[2])));
   if (!user_.pick(popUp, index))
     throw host::Error(fmt::format("{} cannot be picked from", *words[1]));
   return "void";

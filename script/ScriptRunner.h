@@ -25,8 +25,9 @@ public:
                std::ostream &out, std::ostream &errors);
   ~ScriptRunner() override;
 
-  /// Runs every command of `script`. False when one of them could not be run.
-  bool run(std::istream &script);
+  /// Runs every command of `script`, which messages call `name`. False when one of them could not
+  /// be run.
+  bool run(std::istream &script, const std::string &name);
 
   /// Returns the panels that the plug-in made last; null when there are none.
   const PanelList *panels() const;
@@ -46,6 +47,7 @@ private:
   /// Returns the command's result, as the transcript shows it. Throws `Error`.
   std::string perform(const std::vector<Word> &words);
 
+  std::string set(const std::vector<Word> &words);
   std::string pick(const std::vector<Word> &words);
   std::string slide(const std::vector<Word> &words);
   std::string type(const std::vector<Word> &words);
@@ -58,7 +60,15 @@ private:
   std::string PDEPanelsForType(const std::vector<Word> &words);
 
   host::Extension &extension();
+
+  /// Has panels made where none were asked for yet.
+  void open();
+
   Panel &panel(std::string_view word) const;
+
+  /// Returns the index of `item` in the menu of the control `name`: an index, a keyword of its
+  /// option or a text that it shows. -1 when there is none.
+  int itemIndex(const Menu &menu, const std::string &name, const std::string &item) const;
   template <class Control>
   Control &control(const Word &word, std::string_view kind) const;
 
@@ -68,6 +78,8 @@ private:
   std::ostream &out_;
   std::ostream &errors_;
   std::optional<host::Extension> extension_;  // none once it was released
+  bool isInitialised_ = false;                // the plug-in
+  bool isAsked_ = false;                      // for panels
 };
 
 }  // namespace kwopde::script

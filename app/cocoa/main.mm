@@ -63,7 +63,7 @@ int run(const std::string &bundle, const std::string &ppd, bool noConstraintHand
   }
   script::ScriptRunner runner(module, session, user, std::cout, std::cerr);
   const host::TraceTo trace(module, &runner);
-  return runner.run(script == "-" ? std::cin : file) ? 0 : 1;
+  return runner.run(script == "-" ? std::cin : file, script) ? 0 : 1;
 }
 
 }  // namespace

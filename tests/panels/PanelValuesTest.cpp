@@ -2,6 +2,7 @@
 #include <QApplication>
 #include <QLabel>
 
+#include "headless/Headless.h"
 #include "tests/support/PanelFixture.h"
 
 namespace kwopde::test {
@@ -274,6 +275,33 @@ TEST(SharpenValues, SlidTypedAnnouncedAndSummarised) {
     EXPECT_EQ(on.widget<QSlider>(sliders[i]).minimum(), ends[i][0]);
     EXPECT_EQ(on.widget<QSlider>(sliders[i]).maximum(), ends[i][1]);
   }
+}
+
+/// Expects that the sliders of `P` reach as far without a screen as on widgets.
+template <class P>
+void expectSameReach(const std::string &options) {
+  PanelOn<P> onWidgets(options);
+  onWidgets.panel->panelView();
+  const headless::Module module;
+  const auto plain = PanelBase::initWithCallback<P>(onWidgets.host, onWidgets.bundle.get());
+  plain->panelView();
+  int sliders = 0;
+  for (const PanelControl &control : onWidgets.panel->controls()) {
+    const auto *slider = dynamic_cast<const Slider *>(control.control);
+    if (!slider) continue;
+    const auto *other = plain->template control<Slider>(control.outlet);
+    ASSERT_NE(other, nullptr) << control.outlet;
+    EXPECT_EQ(other->minValue(), slider->minValue()) << control.outlet;
+    EXPECT_EQ(other->maxValue(), slider->maxValue()) << control.outlet;
+    EXPECT_EQ(other->doubleValue(), slider->doubleValue()) << control.outlet;
+    ++sliders;
+  }
+  EXPECT_GT(sliders, 2);
+}
+
+TEST(Headless, SlidersReachAsFarAsThoseOfTheInterfaceFiles) {
+  expectSameReach<ColorPDE>(kColorOptions);
+  expectSameReach<SharpenPDE>(kSharpenOptions);
 }
 
 }  // namespace

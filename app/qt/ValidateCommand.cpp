@@ -1,6 +1,5 @@
 #include <fmt/format.h>
 
-#include <CLI/CLI.hpp>
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
@@ -14,9 +13,9 @@
 #include <string>
 #include <vector>
 
-#include "app/Command.h"
 #include "app/Files.h"
 #include "app/Output.h"
+#include "app/qt/QtCommands.h"
 #include "check/RandomSession.h"
 #include "dialog/ModuleLoader.h"
 #include "host/Error.h"
@@ -31,19 +30,6 @@ constexpr int kBatch = 500;
 
 /// The name under which the random sessions stand among the checks.
 constexpr const char *kSessions = "sessions";
-
-struct ValidateOptions {
-  std::string module;  // a file; empty: our own
-  std::string ppd;     // a file; empty: the sample with every option of our panels
-  std::uint64_t seed = 1;
-  int sessions = 1000;
-  std::string only;  // the name of one check; empty: all of them
-  std::string keep;  // a folder for the sessions' scripts; empty: a temporary one
-  bool inProcess = false;
-  bool list = false;
-  bool script = false;  // write the seed's session instead of running it
-  bool json = false;
-};
 
 struct Result {
   enum class Outcome { pass, fail, none };
@@ -239,7 +225,10 @@ void list() {
   printLine("{:26} {}", kSessions, "random calls hold every invariant");
 }
 
-int validate(ValidateOptions options) {
+}  // namespace
+
+int runValidateCommand(const ValidateOptions &given) {
+  ValidateOptions options = given;
   if (options.list) {
     list();
     return kDone;
@@ -262,37 +251,6 @@ int validate(ValidateOptions options) {
     return result.outcome == Result::Outcome::pass;
   });
   return passed ? kDone : kNotDone;
-}
-
-}  // namespace
-
-Command addValidateCommand(CLI::App &commandLine) {
-  const auto options = std::make_shared<ValidateOptions>();
-  CLI::App *command = commandLine.add_subcommand(
-      "validate", "Checks that a module keeps the contract between host and extension");
-  command->add_option("--module", options->module, "The module; else our own")->type_name("FILE");
-  command->add_option("--plugin", options->module)->group("");  // its name in 0.1
-  command
-      ->add_option("--ppd", options->ppd,
-                   "A PPD with the options of the module's panels; else one with ours")
-      ->type_name("FILE");
-  command->add_option("--seed", options->seed, "The first of the random sessions' seeds")
-      ->capture_default_str();
-  command->add_option("--sessions", options->sessions, "How many random sessions")
-      ->check(CLI::NonNegativeNumber)
-      ->capture_default_str();
-  command->add_option("--only", options->only, "Runs one check")->type_name("NAME");
-  command->add_flag("--in-process", options->inProcess,
-                    "Runs in this process, for a debugger, instead of one process a check");
-  command
-      ->add_option("--keep", options->keep, "Leaves the script of a session that goes wrong there")
-      ->type_name("DIR")
-      ->check(CLI::ExistingDirectory);
-  command->add_flag("--script", options->script,
-                    "Writes the random session that the seed stands for, to replay it");
-  command->add_flag("--list", options->list, "Names the checks");
-  command->add_flag("--json", options->json, "Writes the results as JSON");
-  return {command, [options] { return validate(*options); }};
 }
 
 }  // namespace kwopde::app

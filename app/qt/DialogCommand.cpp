@@ -16,12 +16,12 @@
 #include <string>
 #include <vector>
 
-#include "app/Command.h"
 #include "app/Files.h"
 #include "app/JobReport.h"
 #include "app/Output.h"
-#include "app/RunDialog.h"
 #include "app/TraceOption.h"
+#include "app/qt/QtCommands.h"
+#include "app/qt/RunDialog.h"
 #include "dialog/ModuleLoader.h"
 #include "dialog/PpdDialog.h"
 #include "dialog/QueueDialog.h"
@@ -37,15 +37,6 @@ namespace kwopde::app {
 
 namespace {
 
-struct DialogOptions {
-  std::string ppd;             // a file; empty: a queue
-  std::string printer;         // empty: the default queue
-  std::string snapshotFolder;  // empty: no pictures
-  std::vector<std::string> documents;
-  bool choose = false;  // ask for documents when there are none
-  std::string trace = "syslog";
-};
-
 int ppdDialog(const DialogOptions &options) {
   auto session = std::make_shared<host::PpdSession>(host::PpdFile::open(options.ppd));
   PlugInModule &module = dialog::loadModule();
@@ -58,7 +49,7 @@ int ppdDialog(const DialogOptions &options) {
   if (!runDialog(dialog, options.snapshotFolder)) return kNotDone;
   host::JobOptions job;
   job.carry(*session);
-  printChoices(job.chosen());
+  JobReport{job.chosen()}.write(options.json);
   return kDone;
 }
 
@@ -130,48 +121,25 @@ int queueDialog(const DialogOptions &options) {
   const bool isAccepted = runDialog(dialog, options.snapshotFolder);
   if (!dialog.problem().isEmpty()) throw host::JobError(dialog.problem().toStdString());
   if (!isAccepted) return kNotDone;
-  printChoices(dialog.chosenOptions());
-  if (dialog.jobId()) reportSent(dialog.job(), *dialog.jobId());
+  JobReport report{dialog.chosenOptions()};
+  if (dialog.jobId()) {
+    report.job = dialog.job();
+    report.id = *dialog.jobId();
+  }
+  report.write(options.json);
   return kDone;
 }
 
-int dialog(DialogOptions options) {
+}  // namespace
+
+int runDialogCommand(const DialogOptions &given) {
+  DialogOptions options = given;
   if (options.choose && options.documents.empty()) {
     options.documents = chooseDocuments();
     if (options.documents.empty()) return kNotDone;
   }
   expectReadable(options.documents);
   return options.ppd.empty() ? queueDialog(options) : ppdDialog(options);
-}
-
-}  // namespace
-
-Command addDialogCommand(CLI::App &commandLine) {
-  const auto options = std::make_shared<DialogOptions>();
-  CLI::App *command =
-      commandLine.add_subcommand("dialog", "Opens the print dialog of a queue or of a PPD file");
-  auto *ppd = command
-                  ->add_option("--ppd", options->ppd,
-                               "A printer's PPD file; prints nothing, but lists what a job would "
-                               "carry")
-                  ->type_name("FILE");
-  command
-      ->add_option("--printer,-d", options->printer,
-                   "A printer queue; the default one without --ppd and --printer")
-      ->type_name("QUEUE")
-      ->excludes(ppd);
-  command
-      ->add_option("--snapshot", options->snapshotFolder,
-                   "Saves a picture of every tab there and prints at once")
-      ->type_name("DIR");
-  command->add_flag("--choose", options->choose,
-                    "Asks for the documents when none are named; without it, nothing is printed "
-                    "then, and what a job would carry is listed");
-  addTraceOption(*command, options->trace)->capture_default_str();
-  command->add_option("documents", options->documents, "What is to be printed; - is standard input")
-      ->type_name("DOCUMENT");
-  return {command, [options] { return dialog(*options); },
-          [options] { return options->snapshotFolder.empty(); }};
 }
 
 }  // namespace kwopde::app

@@ -1,4 +1,4 @@
-#include "app/RunDialog.h"
+#include "app/qt/RunDialog.h"
 
 #include "app/Output.h"
 #include "dialog/Pictures.h"

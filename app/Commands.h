@@ -1,0 +1,12 @@
+// The commands that need no toolkit.
+#pragma once
+
+#include "app/Command.h"
+
+namespace kwopde::app {
+
+Command checkCommand();
+Command optionsCommand();
+Command printCommand();
+
+}  // namespace kwopde::app
