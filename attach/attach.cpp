@@ -49,7 +49,7 @@ private:
 
 }  // namespace
 
-bool attachPanels(QPrintDialog *dialog) {
+bool attachPanels(QPrintDialog *dialog, bool openOptions) {
   if (!dialog) return false;
   if (dialog->property(kHasPanels).toBool()) return true;
   try {
@@ -57,6 +57,7 @@ bool attachPanels(QPrintDialog *dialog) {
     dialog::installTranslations();
     new Settling(*dialog, *new dialog::PrintDialogPanels(module, *dialog));  // the dialog's
     dialog->setProperty(kHasPanels, true);
+    if (openOptions) dialog::expandOptions(*dialog);
     return true;
   } catch (const host::Error &error) {
     qWarning("kwopde: %s", error.what());

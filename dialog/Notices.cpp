@@ -1,9 +1,19 @@
 #include "dialog/Notices.h"
 
+#include <QLocale>
 #include <algorithm>
 #include <utility>
 
 namespace kwopde::dialog {
+
+namespace {
+
+/// Returns `number` as people write it.
+QString numberText(double number) {
+  return QLocale().toString(number, 'g', 10);
+}
+
+}  // namespace
 
 Notices::Notices(host::PpdSession &session) : session_(session) {
   session_.addObserver(this);
@@ -90,9 +100,8 @@ QString Notices::sentence(const Notice &notice) const {
     case Reason::outsideLimits:
       if (const auto range = session_.range(key))
         return tr("%1 cannot be %2: this printer takes %3 to %4.")
-            .arg(option, wanted)
-            .arg(range->minimum)
-            .arg(range->maximum);
+            .arg(option, numberText(host::wholeNumber(choice).value_or(0)),
+                 numberText(range->minimum), numberText(range->maximum));
       [[fallthrough]];
     case Reason::unlisted:
       return tr("%1 cannot be %2: this printer has no such choice.").arg(option, wanted);

@@ -31,24 +31,43 @@ public:
   /// Puts `header`, which now belongs to the page, above the content.
   void setHeader(QWidget *header);
 
+  /// Shows the help of the page, when there is any.
+  void showHelp();
+
   /// Shows `text` below the content, with a link that undoes what it tells if `canUndo`; empty
   /// takes the box away. Screen readers hear it.
   void setNotice(const QString &text, bool canUndo = false);
 
-  /// Shows `text` as the last line of the page, as long as the page lives.
+  /// Shows `text` below the content, as long as the page lives.
   void setRemark(const QString &text);
+
+  /// Shows as the last line how many settings of the page differ from the printer's defaults, with
+  /// a button that resets them; nothing for 0. The line's room stays.
+  void setDifferences(int count);
+
+  /// Leaves the wheel to the page where it is over a control that does not have the focus: it
+  /// scrolls, and changes no setting.
+  bool eventFilter(QObject *watched, QEvent *event) override;
 
 signals:
   /// What the notice tells of is to be undone.
   void undoRequested();
 
+  /// The page's settings are to be the printer's defaults.
+  void resetRequested();
+
 protected:
+  /// Returns what the page's help says; rich text.
+  virtual QString help() { return {}; }
+
   /// Shows `content`, which now belongs to the page, in place of what was there. It scrolls where a
   /// large font does not leave it room.
   void setContent(QWidget *content);
 
 private:
+  void addLine(QFrame *line, QLabel *text, QPushButton *button);
   void orderFocus();
+  void keepWheelFrom(QWidget *part);
 
   QWidget *header_ = nullptr;
   QScrollArea *area_;
@@ -57,6 +76,8 @@ private:
   QFrame *box_;
   QLabel *notice_;
   QPushButton *undo_;
+  QFrame *last_;
+  QLabel *differences_;
 };
 
 }  // namespace kwopde::dialog

@@ -8,6 +8,7 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+#include "dialog/PageTabs.h"
 #include "dialog/PlainText.h"
 
 namespace kwopde::dialog {
@@ -24,13 +25,12 @@ PanelDialog::PanelDialog(PlugInModule &module, const QString &acceptText, QWidge
   layout->addWidget(none_, 1);
   tabs_->setObjectName("tabs");
   layout->addWidget(tabs_, 1);
-  auto *buttons = new QDialogButtonBox(QDialogButtonBox::Cancel | QDialogButtonBox::Help, this);
+  auto *buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, this);
   QPushButton *button = buttons->addButton(acceptText, QDialogButtonBox::AcceptRole);
-  help_ = buttons->button(QDialogButtonBox::Help);
-  help_->setShortcut(QKeySequence::HelpContents);
+  help_ = addHelp(*buttons, *tabs_);
+  addTabKeys(*tabs_);
   connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-  connect(buttons, &QDialogButtonBox::helpRequested, this, &PanelDialog::showHelp);
   layout->addWidget(buttons);
   button->setDefault(true);
 }
@@ -49,16 +49,12 @@ void PanelDialog::showPanels(const std::shared_ptr<host::PpdSession> &session) {
   if (pages_) connect(pages_.get(), &PanelPages::asksFor, tabs_, &QTabWidget::setCurrentWidget);
   tabs_->setVisible(!pages.isEmpty());
   none_->setVisible(pages.isEmpty());
-  help_->setEnabled(!pages.isEmpty());
+  help_->setVisible(!pages.isEmpty());
   if (!pages.isEmpty()) tabs_->setFocus();
 }
 
 void PanelDialog::accept() {
   if (!pages_ || pages_->print()) QDialog::accept();
-}
-
-void PanelDialog::showHelp() {
-  if (auto *page = qobject_cast<PanelPage *>(tabs_->currentWidget())) page->showHelp();
 }
 
 }  // namespace kwopde::dialog

@@ -37,8 +37,6 @@ protected:
   PanelPages *pages() { return pages_.get(); }
 
 private:
-  void showHelp();
-
   PlugInModule &module_;
   QFormLayout *facts_;
   QLabel *none_;

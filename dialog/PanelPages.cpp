@@ -1,12 +1,11 @@
 #include "dialog/PanelPages.h"
 
-#include <QComboBox>
 #include <QHideEvent>
 #include <QLineEdit>
 #include <QShowEvent>
-#include <QWhatsThis>
 #include <algorithm>
 
+#include "dialog/OptionRow.h"
 #include "dialog/SummaryPage.h"
 #include "platform/PanelInspector.h"
 
@@ -28,24 +27,34 @@ QString nameOf(Panel &panel) {
 
 }  // namespace
 
-PanelPage::PanelPage(Panel &panel, ppd_file_t *ppd) : panel_(panel), ppd_(ppd) {
+PanelPage::PanelPage(Panel &panel, const host::PpdSession &session)
+    : panel_(panel), session_(session) {
   setWindowTitle(titleOf(panel));
   setObjectName(nameOf(panel));
 }
 
-void PanelPage::showHelp() {
+QString PanelPage::help() {
   const QWidget *panelView = view();
-  if (panelView && panel_.shouldShowHelp())
-    QWhatsThis::showText(mapToGlobal(QPoint(width() / 4, 0)), panelView->whatsThis(), this);
+  return panelView && panel_.shouldShowHelp() ? panelView->whatsThis() : QString();
 }
 
 void PanelPage::print() {
   panel_.shouldPrint();
 }
 
+std::set<std::string> PanelPage::keys() const {
+  std::set<std::string> keys;
+  for (const PanelOption &option : optionsOf(panel_)) keys.insert(option.key);
+  return keys;
+}
+
 QWidget *PanelPage::controlOf(const std::string &key) const {
-  for (const PanelOption &option : optionsOf(panel_))
-    if (option.key == key) return widgetAt(option.field.empty() ? option.popUp : option.field);
+  const PanelInspector *inspector = inspectorOf(panel_);
+  for (const PanelOption &option : optionsOf(panel_)) {
+    if (option.key != key) continue;
+    const View *control = inspector->control(option.field.empty() ? option.popUp : option.field);
+    return control ? static_cast<QWidget *>(control->nativeView()) : nullptr;
+  }
   return nullptr;
 }
 
@@ -53,39 +62,36 @@ void PanelPage::showEvent(QShowEvent *event) {
   Page::showEvent(event);
   if (event->spontaneous()) return;
   QWidget *panelView = view();
+  if (panelView && rows_.isEmpty()) showContent(panelView);
   panel_.willShow();
-  if (panelView && !seen_) showContent(panelView);
-  seen_ = true;
+  showDifferences();
 }
 
 void PanelPage::showContent(QWidget *panelView) {
-  setContent(panelView);
   QStringList missing;
   for (const PanelOption &option : optionsOf(panel_)) {
-    const bool printerHasIt = ppdFindOption(ppd_, option.key.c_str()) != nullptr;
-    if (auto *menu = qobject_cast<QComboBox *>(widgetAt(option.popUp)); menu && !printerHasIt)
-      menu->setPlaceholderText(tr("Not available"));
-    auto *field = qobject_cast<QLineEdit *>(widgetAt(option.field));
-    if (!field) continue;
-    const QWidget *named = widgetAt(option.slider.empty() ? option.field : option.slider);
-    if (!printerHasIt) missing.append(named->accessibleName());
-    // A panel reads its fields when it is left. Somebody who goes on to a menu of the same panel
-    // has left the field too.
-    connect(field, &QLineEdit::editingFinished, this, [this, field] {
-      if (!field->isModified()) return;
-      panel_.shouldHide();
-      panel_.willShow();
-      field->setModified(false);
-    });
+    auto *row = new OptionRow(panel_, option, session_, this);
+    rows_.append(row);
+    connect(row, &OptionRow::edited, this, &PanelPage::showDifferences);
+    connect(row, &OptionRow::finished, this, &PanelPage::settle);
+    if (!row->isAvailable() && !row->number().isEmpty()) missing.append(row->number());
   }
+  setContent(panelView);
   if (!missing.isEmpty())
     setRemark(tr("This printer does not adjust: %1.").arg(missing.join(", ")));
 }
 
-QWidget *PanelPage::widgetAt(std::string_view outlet) const {
-  const PanelInspector *inspector = inspectorOf(panel_);
-  const View *control = inspector ? inspector->control(outlet) : nullptr;
-  return control ? static_cast<QWidget *>(control->nativeView()) : nullptr;
+void PanelPage::settle() {
+  // A panel reads its fields when it is left. Somebody who goes on to a menu of the same panel has
+  // left the field too.
+  panel_.shouldHide();
+  panel_.willShow();
+}
+
+void PanelPage::showDifferences() {
+  for (OptionRow *row : rows_) row->showDifference();
+  setDifferences(static_cast<int>(std::count_if(
+      rows_.begin(), rows_.end(), [](const OptionRow *row) { return row->differs(); })));
 }
 
 void PanelPage::hideEvent(QHideEvent *event) {
@@ -109,12 +115,16 @@ PanelPages::PanelPages(PlugInModule &module, std::shared_ptr<host::PpdSession> s
   if (!panels_) return;
   for (const auto &panel : *panels_) {
     panel->restoreValuesAndReturnError(nullptr);
-    panelPages_.append(new PanelPage(*panel, session_->ppdFile()));
+    panelPages_.append(new PanelPage(*panel, *session_));
   }
-  summaryPage_ = new SummaryPage(*panels_, session_->ppdFile());
+  summaryPage_ = new SummaryPage(*panels_, *session_);
   for (Page *page : pages()) {
     connect(&notices_, &Notices::changed, page, &Page::setNotice);
     connect(page, &Page::undoRequested, this, &PanelPages::undo);
+  }
+  for (PanelPage *page : panelPages_) {
+    connect(&notices_, &Notices::marked, page, &PanelPage::showDifferences);
+    connect(page, &Page::resetRequested, this, [this, page] { reset(*page); });
   }
   connect(&notices_, &Notices::marked, this, &PanelPages::changed);
   notices_.tell();
@@ -138,7 +148,13 @@ void PanelPages::undo() {
 }
 
 void PanelPages::reset(const std::vector<host::OptionChoice> &queueDefaults) {
-  session_->markDefaults(queueDefaults);
+  session_->setQueueDefaults(queueDefaults);
+  session_->markDefaults(session_->panelKeys());
+  showMarks();
+}
+
+void PanelPages::reset(const PanelPage &page) {
+  session_->markDefaults(page.keys());
   showMarks();
 }
 
@@ -146,6 +162,8 @@ void PanelPages::showMarks() {
   // A panel that hears of a change shows it after an action of its own only.
   if (panels_)
     for (const auto &panel : *panels_) panel->restoreValuesAndReturnError(nullptr);
+  for (const auto &page : panelPages_)
+    if (page) page->showDifferences();
   if (summaryPage_ && summaryPage_->isVisible()) summaryPage_->refresh();
 }
 

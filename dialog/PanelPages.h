@@ -5,6 +5,7 @@
 #include <QObject>
 #include <QPointer>
 #include <memory>
+#include <set>
 
 #include "dialog/Notices.h"
 #include "dialog/Page.h"
@@ -14,6 +15,7 @@
 
 namespace kwopde::dialog {
 
+class OptionRow;
 class SummaryPage;
 
 /// One panel. The panel hears that it is shown and left when its page is; its view is made when the
@@ -22,31 +24,36 @@ class PanelPage final : public Page {
   Q_OBJECT
 
 public:
-  /// `panel`, which works on the PPD, is borrowed, and so is `ppd`.
-  PanelPage(Panel &panel, ppd_file_t *ppd);
-
-  /// Shows the panel's own help, when the panel lets the dialog do so.
-  void showHelp();
+  /// `panel`, which works on the PPD of `session`, is borrowed, and so is `session`.
+  PanelPage(Panel &panel, const host::PpdSession &session);
 
   /// Settles what is shown, for a job that is about to be sent.
   void print();
+
+  /// Lets captions and the last line tell what differs from the printer's defaults.
+  void showDifferences();
+
+  /// Returns the options that the panel handles, by keyword.
+  std::set<std::string> keys() const;
 
   /// Returns the widget in which a person sets the option `key`; null when the panel does not
   /// handle it, or does not tell.
   QWidget *controlOf(const std::string &key) const;
 
 protected:
+  /// Returns the panel's own help, when the panel lets the dialog show it.
+  QString help() override;
   void showEvent(QShowEvent *event) override;
   void hideEvent(QHideEvent *event) override;
 
 private:
   QWidget *view();
   void showContent(QWidget *panelView);
-  QWidget *widgetAt(std::string_view outlet) const;
+  void settle();
 
   Panel &panel_;
-  ppd_file_t *ppd_;
-  bool seen_ = false;
+  const host::PpdSession &session_;
+  QList<OptionRow *> rows_;  // once the page was seen
 };
 
 class PanelPages final : public QObject {
@@ -94,6 +101,7 @@ signals:
 
 private:
   void undo();
+  void reset(const PanelPage &page);
 
   std::shared_ptr<host::PpdSession> session_;
   Notices notices_;

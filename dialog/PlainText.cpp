@@ -1,5 +1,6 @@
 #include "dialog/PlainText.h"
 
+#include <QGuiApplication>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
@@ -9,6 +10,8 @@ namespace kwopde::dialog {
 QLabel *plainLabel(const QString &text) {
   auto *label = new QLabel(text);
   label->setTextFormat(Qt::PlainText);
+  label->setAlignment((QGuiApplication::isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft) |
+                      Qt::AlignAbsolute | Qt::AlignVCenter);
   return label;
 }
 

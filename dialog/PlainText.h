@@ -8,7 +8,8 @@ class QWidget;
 
 namespace kwopde::dialog {
 
-/// Makes a label that shows `text`.
+/// Makes a label that shows `text`, where a line starts in the application's reading direction: Qt
+/// goes by that of the text.
 QLabel *plainLabel(const QString &text);
 
 /// Tells the person at `window`, and waits until that is read.

@@ -1,6 +1,8 @@
 #include "dialog/PrintDialogPanels.h"
 
 #include <QComboBox>
+#include <QDialogButtonBox>
+#include <QEvent>
 #include <QLabel>
 #include <QPrinter>
 #include <QPushButton>
@@ -9,11 +11,21 @@
 #include <QTimer>
 
 #include "dialog/AdvancedOptions.h"
+#include "dialog/PageTabs.h"
 #include "dialog/PrinterOptions.h"
 #include "host/Error.h"
 #include "queue/PrintQueue.h"
 
 namespace kwopde::dialog {
+
+void expandOptions(QPrintDialog &dialog) {
+  const auto *tabs = dialog.findChild<QTabWidget *>();
+  if (!tabs || tabs->isVisibleTo(&dialog)) return;
+  // The button "Options >>" has no name, but it is the only one of its role.
+  for (auto *box : dialog.findChildren<QDialogButtonBox *>())
+    for (QAbstractButton *button : box->buttons())
+      if (box->buttonRole(button) == QDialogButtonBox::ResetRole) button->click();
+}
 
 PrintDialogPanels::PrintDialogPanels(PlugInModule &module, QPrintDialog &dialog)
     : QObject(&dialog), module_(module), dialog_(dialog) {
@@ -28,11 +40,24 @@ PrintDialogPanels::PrintDialogPanels(PlugInModule &module, QPrintDialog &dialog)
             [this] { QTimer::singleShot(0, this, &PrintDialogPanels::fillProperties); });
     connect(properties, &QPushButton::clicked, this, &PrintDialogPanels::readProperties);
   }
+  auto *tabs = dialog.findChild<QTabWidget *>();
+  auto *buttons = dialog.findChild<QDialogButtonBox *>();
+  if (tabs) addTabKeys(*tabs);
+  if (tabs && buttons) help_ = addHelp(*buttons, *tabs);
+  if (buttons) buttons->installEventFilter(this);
   const QString printer = dialog.printer()->printerName();
   // What an earlier dialog has set on the same QPrinter is still set.
   const Printer *chosen = open(printer);
   if (chosen && chosen->session) chosen->session->markSaved(cupsOptions(*dialog.printer()));
   showPanelsOf(printer);
+}
+
+bool PrintDialogPanels::eventFilter(QObject *watched, QEvent *event) {
+  auto *buttons = qobject_cast<QDialogButtonBox *>(watched);
+  if (auto *print = buttons ? buttons->button(QDialogButtonBox::Ok) : nullptr;
+      print && event->type() == QEvent::LanguageChange)
+    QTimer::singleShot(0, print, [print] { print->setText(QPrintDialog::tr("&Print")); });
+  return QObject::eventFilter(watched, event);
 }
 
 PrintDialogPanels::Printer *PrintDialogPanels::open(const QString &printer) {
@@ -45,6 +70,7 @@ PrintDialogPanels::Printer *PrintDialogPanels::open(const QString &printer) {
     opened = &(printers_[printer] = {queue.options(), nullptr});
     opened->session = queue.openSession();
     opened->session->setFixed(optionsOfQt());
+    opened->session->setQueueDefaults(queue.defaults());
   } catch (const host::Error &) {
     // Not a queue, or one without a PPD: a printer that is not ours.
   }
@@ -54,8 +80,9 @@ PrintDialogPanels::Printer *PrintDialogPanels::open(const QString &printer) {
 void PrintDialogPanels::showPanelsOf(const QString &printer) {
   closePages();
   printer_ = open(printer);
-  if (!printer_ || !printer_->session) return;
-  pages_ = std::make_unique<PanelPages>(module_, printer_->session);
+  if (printer_ && printer_->session)
+    pages_ = std::make_unique<PanelPages>(module_, printer_->session);
+  if (help_) help_->setVisible(hasPanels());
   if (!hasPanels()) return;
   presets_ = std::make_unique<PresetRow>(printer, *pages_, [this] { return settings(); }, &dialog_);
   connect(presets_.get(), &PresetRow::chosen, this, &PrintDialogPanels::switchTo,

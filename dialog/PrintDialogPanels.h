@@ -3,6 +3,7 @@
 
 #include <QObject>
 #include <QPrintDialog>
+#include <QPushButton>
 #include <map>
 #include <memory>
 #include <optional>
@@ -14,6 +15,9 @@
 #include "host/PpdSession.h"
 
 namespace kwopde::dialog {
+
+/// Opens the part of `dialog` that has the tabs.
+void expandOptions(QPrintDialog &dialog);
 
 /// While it lives, `dialog` shows the panels of the printer that is chosen in it, and none for a
 /// printer that is not ours.
@@ -43,6 +47,9 @@ public:
   /// application that paints on it. What Qt has in hand itself (paper, sides) stays Qt's.
   void handOver();
 
+  /// Keeps the text of the button that prints when a language is loaded: Qt's dialog makes it "OK".
+  bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
   /// A queue of the server, as it was left.
   struct Printer {
@@ -70,7 +77,8 @@ private:
   Printer *printer_ = nullptr;           // the chosen one; null when it is no queue
   std::unique_ptr<PanelPages> pages_;
   std::unique_ptr<PresetRow> presets_;
-  QString openTab_;  // the page that was in front, by name
+  QPushButton *help_ = nullptr;  // the dialog's
+  QString openTab_;              // the page that was in front, by name
 };
 
 }  // namespace kwopde::dialog

@@ -1,13 +1,11 @@
 #include "dialog/QueueDialog.h"
 
 #include <QCoreApplication>
-#include <QDialogButtonBox>
 #include <QMessageBox>
 #include <QPrinter>
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QScopedValueRollback>
-#include <QTabWidget>
 
 #include "dialog/PrinterOptions.h"
 #include "host/Error.h"
@@ -22,21 +20,16 @@ constexpr int kPatience = 500;
 
 }  // namespace
 
-void expandOptions(QPrintDialog &dialog) {
-  const auto *tabs = dialog.findChild<QTabWidget *>();
-  if (!tabs || tabs->isVisibleTo(&dialog)) return;
-  // The button "Options >>" has no name, but it is the only one of its role.
-  for (auto *box : dialog.findChildren<QDialogButtonBox *>())
-    for (QAbstractButton *button : box->buttons())
-      if (box->buttonRole(button) == QDialogButtonBox::ResetRole) button->click();
-}
-
 QueueDialog::QueueDialog(PlugInModule &module, QPrinter &printer,
                          std::vector<std::string> documents)
     : QPrintDialog(&printer),
       panels_(*new PrintDialogPanels(module, *this)),
       documents_(std::move(documents)) {
   setOption(PrintToFile, false);
+  if (documents_.size() > 1)
+    setWindowTitle(tr("Print %1 Documents").arg(documents_.size()));
+  else if (!documents_.empty())
+    setWindowTitle(tr("Print %1").arg(QString::fromStdString(host::documentName(documents_[0]))));
   expandOptions(*this);  // the panels are what this dialog is for
 }
 

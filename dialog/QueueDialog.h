@@ -11,9 +11,6 @@
 
 namespace kwopde::dialog {
 
-/// Opens the part of `dialog` that has the tabs.
-void expandOptions(QPrintDialog &dialog);
-
 /// "Print" sends the documents. When that fails, the dialog says why and stays open with every
 /// setting kept.
 class QueueDialog final : public QPrintDialog {

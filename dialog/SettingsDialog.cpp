@@ -38,6 +38,7 @@ void SettingsDialog::showSettingsOf(const QString &destination) {
   queue_.emplace(destination.toStdString());
   try {
     session_ = queue_->openSession();
+    session_->setQueueDefaults(queue_->defaults());
   } catch (const host::JobError &) {
     throw;
   } catch (const host::Error &) {

@@ -1,9 +1,14 @@
 #include "dialog/SummaryPage.h"
 
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
+#include <QLocale>
 #include <QShowEvent>
-#include <set>
+#include <QVBoxLayout>
+#include <iterator>
+#include <map>
+#include <utility>
 
 #include "dialog/PlainText.h"
 #include "platform/PanelInspector.h"
@@ -12,23 +17,67 @@ namespace kwopde::dialog {
 
 namespace {
 
-QLabel *labelOf(const std::string &text) {
-  return plainLabel(QString::fromStdString(text));
-}
-
-QLabel *heading(const std::string &text) {
-  QLabel *label = labelOf(text);
-  QFont font = label->font();
-  font.setBold(true);
+QLabel *labelOf(const std::string &text, bool isBold) {
+  QLabel *label = plainLabel(QString::fromStdString(text));
+  QFont font;
+  if (isBold) font.setBold(true);
   label->setFont(font);
   return label;
 }
 
+/// One of the two columns of the page.
+class Side {
+public:
+  /// Adds itself to `sides`.
+  Side(QHBoxLayout &sides, const QFontMetrics &metrics)
+      : grid_(new QGridLayout), metrics_(metrics) {
+    grid_->setHorizontalSpacing(2 * metrics.averageCharWidth());
+    grid_->setVerticalSpacing(metrics.height() / 4);
+    grid_->setColumnMinimumWidth(0, metrics.averageCharWidth() / 2);
+    grid_->setColumnStretch(2, 1);
+    auto *column = new QVBoxLayout;
+    column->addLayout(grid_);
+    column->addStretch();
+    sides.addLayout(column, 1);
+  }
+
+  int rows() const { return rows_; }
+
+  void add(const SummaryPage::Entry &entry) {
+    QLabel *value = labelOf(entry.value, entry.differs);
+    value->setWordWrap(true);
+    grid_->addWidget(labelOf(entry.title + ":", entry.differs), rows_, 1, Qt::AlignTop);
+    grid_->addWidget(value, rows_++, 2);
+  }
+
+  void add(const std::string &heading) {
+    if (rows_ > 0) grid_->setRowMinimumHeight(rows_++, metrics_.height() / 2);
+    grid_->addWidget(labelOf(heading, true), rows_++, 0, 1, 3);
+  }
+
+  /// Leaves as many rows empty as `other` has more.
+  void alignWith(const Side &other) {
+    while (rows_ < other.rows_) grid_->setRowMinimumHeight(rows_++, metrics_.height());
+  }
+
+private:
+  QGridLayout *grid_;
+  const QFontMetrics metrics_;
+  int rows_ = 0;
+};
+
 }  // namespace
 
-SummaryPage::SummaryPage(const PanelList &panels, ppd_file_t *ppd) : panels_(panels), ppd_(ppd) {
+SummaryPage::SummaryPage(const PanelList &panels, const host::PpdSession &session)
+    : panels_(panels), session_(session) {
   setWindowTitle(tr("Summary"));
   setObjectName("summary");
+}
+
+QString SummaryPage::help() {
+  return tr(
+      "<p>All that is set on the other tabs. What is other than the printer's defaults comes "
+      "first.</p>");
 }
 
 void SummaryPage::showEvent(QShowEvent *event) {
@@ -36,30 +85,59 @@ void SummaryPage::showEvent(QShowEvent *event) {
   if (!event->spontaneous()) refresh();
 }
 
-QWidget *SummaryPage::table() {
-  auto *content = new QWidget;
-  auto *grid = new QGridLayout(content);
-  grid->setHorizontalSpacing(2 * fontMetrics().averageCharWidth());
-  grid->setVerticalSpacing(fontMetrics().height() / 4);
-  grid->setColumnMinimumWidth(0, fontMetrics().averageCharWidth());
-  grid->setColumnStretch(2, 1);
-  int row = 0;
+std::vector<SummaryPage::Section> SummaryPage::sections() const {
+  Section changed{tr("Other than the printer's defaults").toStdString(), {}};
+  std::vector<Section> sections;
   for (const auto &panel : panels_) {
     const auto summary = panel->summaryInfo();
     const std::string *name = panel->panelName();
-    if (row > 0) grid->setRowMinimumHeight(row++, fontMetrics().height() / 2);
-    grid->addWidget(heading(name ? *name : std::string()), row++, 0, 1, 3);
-    // A number of an option that the printer lacks is in the panel's summary, and in no job.
-    std::set<std::string_view> missing;
+    Section section{name ? *name : std::string(), {}};
+    std::map<std::string, PanelOption> options;  // by title in the summary
     for (const PanelOption &option : optionsOf(*panel))
-      if (!ppdFindOption(ppd_, option.key.c_str())) missing.insert(option.summary);
+      options[option.summary.empty() ? session_.ppd().textOf(option.key)
+                                     : std::string(option.summary)] = option;
     for (const auto &[title, value] : summary->entries()) {
-      if (missing.contains(title)) continue;
-      grid->addWidget(labelOf(title + ":"), row, 1);
-      grid->addWidget(labelOf(value), row++, 2);
+      const PanelOption &option = options[title];
+      const std::string &key = option.key;
+      const auto byDefault = session_.defaultChoice(key);
+      // A number of an option that the printer lacks is in the panel's summary, and in no job.
+      if (!key.empty() && !byDefault) continue;
+      const bool differs = byDefault && session_.markedChoice(key) != byDefault;
+      // The panel speaks no language here.
+      QString shown = QString::fromStdString(value);
+      if (option.kind != PanelOption::Kind::choice) shown.replace('.', QLocale().decimalPoint());
+      (differs ? changed : section)
+          .entries.push_back(
+              {key.empty() ? title : session_.ppd().textOf(key), shown.toStdString(), differs});
     }
+    sections.push_back(std::move(section));
   }
-  grid->setRowStretch(row, 1);
+  sections.insert(sections.begin(), std::move(changed));
+  return sections;
+}
+
+QWidget *SummaryPage::table() const {
+  auto *content = new QWidget;
+  auto *layout = new QVBoxLayout(content);
+  auto *sides = new QHBoxLayout;
+  Side left(*sides, fontMetrics());
+  Side right(*sides, fontMetrics());
+  auto all = sections();
+  const Section &changed = all.front();
+  if (!changed.entries.empty()) {
+    layout->addWidget(labelOf(changed.title, true));
+    for (std::size_t i = 0; i < changed.entries.size(); ++i)
+      (i < (changed.entries.size() + 1) / 2 ? left : right).add(changed.entries[i]);
+    right.alignWith(left);
+  }
+  for (auto section = std::next(all.begin()); section != all.end(); ++section) {
+    if (section->entries.empty()) continue;
+    Side &side = right.rows() < left.rows() ? right : left;
+    side.add(section->title);
+    for (const Entry &entry : section->entries) side.add(entry);
+  }
+  layout->addLayout(sides);
+  layout->addStretch();
   return content;
 }
 

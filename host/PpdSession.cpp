@@ -69,15 +69,19 @@ void PpdSession::markSaved(const std::vector<OptionChoice> &saved) {
   }
 }
 
-void PpdSession::markDefaults(const std::vector<OptionChoice> &queueDefaults) {
-  for (const std::string &key : panelKeys()) {
-    const ppd_option_t *option = ppdFindOption(ppd_.get(), key.c_str());
-    if (!option) continue;
-    const auto ofQueue =
-        std::find_if(queueDefaults.begin(), queueDefaults.end(),
-                     [&](const OptionChoice &other) { return isSameKey(other.key, key); });
-    if (ofQueue == queueDefaults.end() || !mark(key, ofQueue->choice)) mark(key, option->defchoice);
-  }
+std::optional<std::string> PpdSession::defaultChoice(const std::string &key) const {
+  ppd_option_t *option = ppdFindOption(ppd_.get(), key.c_str());
+  if (!option) return {};
+  for (const OptionChoice &ofQueue : queueDefaults_)
+    if (isSameKey(ofQueue.key, key))
+      if (const auto found = findMarkable(ppd_.get(), *option, ofQueue.choice))
+        return found->keyword();
+  return option->defchoice;
+}
+
+void PpdSession::markDefaults(const std::set<std::string> &keys) {
+  for (const std::string &key : keys)
+    if (const auto choice = defaultChoice(key)) mark(key, *choice);
 }
 
 std::vector<OptionChoice> PpdSession::conflicts() const {

@@ -81,9 +81,18 @@ public:
   /// Marks what the user has saved for the printer; what the PPD does not have is passed over.
   void markSaved(const std::vector<OptionChoice> &saved);
 
-  /// Marks the panels' options as `queueDefaults` has them, and the others of them as the PPD has
-  /// them, and announces it.
-  void markDefaults(const std::vector<OptionChoice> &queueDefaults);
+  /// Tells what the queue gives every job in place of the PPD's defaults. What the PPD does not
+  /// have counts for nothing.
+  void setQueueDefaults(std::vector<OptionChoice> defaults) {
+    queueDefaults_ = std::move(defaults);
+  }
+
+  /// Returns the keyword of the printer's default for `key`: the queue's, else the PPD's; none when
+  /// the PPD has no such option.
+  std::optional<std::string> defaultChoice(const std::string &key) const;
+
+  /// Marks the printer's defaults of `keys`, and announces it.
+  void markDefaults(const std::set<std::string> &keys);
 
   /// Names options that somebody else has in hand, such as the tabs of a dialog: a request that
   /// could only be granted by changing one of them is refused.
@@ -140,6 +149,7 @@ private:
   Constraints constraints_;
   bool constraintHandling_;
   bool refusesAll_ = false;
+  std::vector<OptionChoice> queueDefaults_;
   const PanelList *panels_ = nullptr;
   std::vector<SessionObserver *> observers_;
   std::map<std::string, std::optional<std::string>> settled_;  // marked first, by option

@@ -7,19 +7,14 @@
 #include <algorithm>
 #include <cmath>
 
+#include "qt/NumberSlider.h"
+
 namespace kwopde::qt {
 
 namespace {
 
 QString fromUtf8(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
-/// The number of steps that make 1, by the property "step".
-double stepsPerUnit(const QSlider &slider) {
-  const double step = slider.property("step").toDouble();
-  // Rounded, since a decimal step has no exact value: 1789 steps of 0.001 are 1.789.
-  return step > 0 ? std::max(std::round(1 / step), 1.0) : 1.0;
 }
 
 /// Whether an ampersand in the text of `widget` marks a mnemonic.
@@ -31,7 +26,8 @@ bool showsMnemonic(const QWidget &widget) {
 /// Returns `typed` with the number that it starts with in machine text: "1.234,5 %" typed in a
 /// German session is "1234.5 %". What is no number there stays as it is.
 QString machineText(const QString &typed) {
-  static const QRegularExpression start("^\\s*[-+]?[\\d.,'\u2019\u00a0\u202f]*\\d");
+  const QRegularExpression start("^\\s*[-+]?[\\d.,'\u2019\u00a0\u202f" +
+                                 QRegularExpression::escape(QLocale().decimalPoint()) + "]*\\d");
   const auto number = start.match(typed);
   bool isNumber = false;
   const double value = QLocale().toDouble(number.captured().trimmed(), &isNumber);
@@ -40,10 +36,15 @@ QString machineText(const QString &typed) {
          typed.mid(number.capturedEnd());
 }
 
-/// Returns `text` with the decimal point of the number that it starts with as people write it.
-QString peoplesText(QString text) {
-  static const QRegularExpression decimal("^(\\s*[-+]?\\d+)\\.(?=\\d)");
-  return text.replace(decimal, "\\1" + QLocale().decimalPoint());
+/// Returns `text` with the number that it starts with as people write it: with their decimal sign,
+/// and with at least `decimals` digits after it.
+QString peoplesText(const QString &text, int decimals) {
+  static const QRegularExpression start("^(\\s*[-+]?\\d+)(?:\\.(\\d+))?(?![\\d.eE])");
+  const auto number = start.match(text);
+  if (!number.hasMatch()) return text;
+  const QString digits = number.captured(2).leftJustified(decimals, '0');
+  const QString fraction = digits.isEmpty() ? QString() : QLocale().decimalPoint() + digits;
+  return number.captured(1) + fraction + text.mid(number.capturedEnd());
 }
 
 }  // namespace
@@ -69,22 +70,22 @@ void QtPopUpButton::addItem(MenuItem item) {
 
 double QtSlider::doubleValue() const {
   // The position, which leads the value while an action is being sent.
-  return widget_ ? widget_->sliderPosition() / stepsPerUnit(*widget_) : 0;
+  return widget_ ? widget_->sliderPosition() / NumberSlider::stepsPerUnit(*widget_) : 0;
 }
 
 void QtSlider::setDoubleValue(double value) {
   if (!widget_ || std::isnan(value)) return;
-  const double steps = std::round(value * stepsPerUnit(*widget_));
+  const double steps = std::round(value * NumberSlider::stepsPerUnit(*widget_));
   widget_->setValue(
       static_cast<int>(std::clamp<double>(steps, widget_->minimum(), widget_->maximum())));
 }
 
 double QtSlider::minValue() const {
-  return widget_ ? widget_->minimum() / stepsPerUnit(*widget_) : 0;
+  return widget_ ? widget_->minimum() / NumberSlider::stepsPerUnit(*widget_) : 0;
 }
 
 double QtSlider::maxValue() const {
-  return widget_ ? widget_->maximum() / stepsPerUnit(*widget_) : 0;
+  return widget_ ? widget_->maximum() / NumberSlider::stepsPerUnit(*widget_) : 0;
 }
 
 std::string QtTextField::stringValue() const {
@@ -100,7 +101,8 @@ void QtTextField::setStringValue(std::string_view text) {
   if (!widget_) return;
   QString shown = fromUtf8(text);
   if (showsMnemonic(*widget_)) shown.replace('&', "&&");
-  if (qobject_cast<QLineEdit *>(widget_)) shown = peoplesText(shown);
+  if (qobject_cast<QLineEdit *>(widget_))
+    shown = peoplesText(shown, widget_->property("decimals").toInt());
   widget_->setProperty("text", shown);
 }
 

@@ -49,8 +49,7 @@ public:
   void addItem(MenuItem item) override;
 };
 
-/// A Qt slider counts in whole steps. The widget's dynamic property "step" is the number that one
-/// step stands for; 1 without it.
+/// Counts in the numbers that the steps of the widget stand for, as `NumberSlider` says.
 class QtSlider final : public QtControl<Slider, QSlider> {
 public:
   using QtControl::QtControl;
@@ -62,7 +61,8 @@ public:
 };
 
 /// Whatever shows one line of text in a property "text": a line edit, a label. A line edit shows
-/// the number that its text starts with as people in Qt's default locale write it.
+/// the number that its text starts with as people in Qt's default locale write it, and with at
+/// least as many digits after the decimal sign as its dynamic property "decimals" says.
 class QtTextField final : public QtControl<TextField, QWidget> {
 public:
   using QtControl::QtControl;

@@ -1,15 +1,29 @@
 #include "qt/QtInterfaceLoader.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QLabel>
 #include <QUiLoader>
 #include <QtDebug>
 
+#include "qt/NumberSlider.h"
 #include "qt/QtControls.h"
 
 namespace kwopde::qt {
 
 namespace {
+
+/// Makes the widgets of a file, with sliders of our own.
+class Builder final : public QUiLoader {
+public:
+  QWidget *createWidget(const QString &className, QWidget *parent, const QString &name) override {
+    if (className != QLatin1String("QSlider"))
+      return QUiLoader::createWidget(className, parent, name);
+    auto *slider = new NumberSlider(parent);
+    slider->setObjectName(name);
+    return slider;
+  }
+};
 
 void connectControl(QtPanelView &view, QWidget *widget, InterfaceOwner &owner) {
   const QString name = widget->objectName();
@@ -29,12 +43,15 @@ void connectControl(QtPanelView &view, QWidget *widget, InterfaceOwner &owner) {
 
 QtInterfaceLoader::QtInterfaceLoader(QString folder) : folder_(std::move(folder)) {}
 
-QtInterfaceLoader::~QtInterfaceLoader() = default;
+QtInterfaceLoader::~QtInterfaceLoader() {
+  if (loader_ && QCoreApplication::instance()) NumberSlider::setAccessible(false);
+}
 
 bool QtInterfaceLoader::loadNibNamed(std::string_view name, InterfaceOwner &owner) {
   if (!loader_) {
-    loader_ = std::make_unique<QUiLoader>();
+    loader_ = std::make_unique<Builder>();
     loader_->clearPluginPaths();  // the files use Qt's own widgets only
+    NumberSlider::setAccessible(true);
   }
   QFile file(folder_ + '/' + QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())) +
              ".ui");
@@ -50,7 +67,12 @@ bool QtInterfaceLoader::loadNibNamed(std::string_view name, InterfaceOwner &owne
              qPrintable(file.fileName()));
     return false;
   }
-  for (QLabel *label : top->findChildren<QLabel *>()) label->setTextFormat(Qt::PlainText);
+  for (QLabel *label : top->findChildren<QLabel *>()) {
+    label->setTextFormat(Qt::PlainText);
+    // Where a caption starts does not depend on its language.
+    if (top->isRightToLeft())
+      label->setAlignment(Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignVCenter);
+  }
   for (QWidget *child : top->findChildren<QWidget *>()) connectControl(*view, child, owner);
   owner.setOutlet("pdeView", view);
   return true;

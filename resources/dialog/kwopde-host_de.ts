@@ -40,10 +40,45 @@
     </message>
 </context>
 <context>
+    <name>kwopde::dialog::OptionRow</name>
+    <message>
+        <source>Not available</source>
+        <translation>Nicht verfügbar</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 bis %2</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1; %2 changes nothing</source>
+        <translation>%1; %2 ändert nichts</translation>
+    </message>
+    <message>
+        <source>%1; %2 is the printer's default</source>
+        <translation>%1; %2 ist die Voreinstellung des Druckers</translation>
+    </message>
+</context>
+<context>
     <name>kwopde::dialog::Page</name>
     <message>
         <source>Undo</source>
         <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Reset Page</source>
+        <translation>Karte zurücksetzen</translation>
+    </message>
+    <message>
+        <source>One setting differs from the printer's defaults.</source>
+        <translation>Eine Einstellung weicht von den Voreinstellungen des Druckers ab.</translation>
+    </message>
+    <message>
+        <source>%1 settings differ from the printer's defaults.</source>
+        <translation>%1 Einstellungen weichen von den Voreinstellungen des Druckers ab.</translation>
     </message>
 </context>
 <context>
@@ -55,10 +90,6 @@
 </context>
 <context>
     <name>kwopde::dialog::PanelPage</name>
-    <message>
-        <source>Not available</source>
-        <translation>Nicht verfügbar</translation>
-    </message>
     <message>
         <source>This printer does not adjust: %1.</source>
         <translation>Dieser Drucker stellt nicht ein: %1.</translation>
@@ -169,6 +200,14 @@
         <translation>Drucken</translation>
     </message>
     <message>
+        <source>Print %1</source>
+        <translation>%1 drucken</translation>
+    </message>
+    <message>
+        <source>Print %1 Documents</source>
+        <translation>%1 Dokumente drucken</translation>
+    </message>
+    <message>
         <source>&amp;Print Anyway</source>
         <translation>&amp;Trotzdem drucken</translation>
     </message>
@@ -205,6 +244,14 @@
     <message>
         <source>Summary</source>
         <translation>Übersicht</translation>
+    </message>
+    <message>
+        <source>Other than the printer's defaults</source>
+        <translation>Anders als die Voreinstellungen des Druckers</translation>
+    </message>
+    <message>
+        <source>&lt;p&gt;All that is set on the other tabs. What is other than the printer's defaults comes first.&lt;/p&gt;</source>
+        <translation>&lt;p&gt;Alles, was auf den anderen Karten eingestellt ist. Zuerst steht, was von den Voreinstellungen des Druckers abweicht.&lt;/p&gt;</translation>
     </message>
 </context>
 </TS>

@@ -19,8 +19,8 @@
 <context>
     <name>ColorPDE</name>
     <message>
-        <source>&lt;p&gt;&lt;b&gt;Color mode&lt;/b&gt; takes effect at once.&lt;/p&gt;&lt;p&gt;The sliders adjust the image and can also be typed as numbers: -100 to 100 around 0, gamma 0.10 to 3.00 around 1.00. They take effect when you leave the tab or print.&lt;/p&gt;</source>
-        <translation>&lt;p&gt;Der &lt;b&gt;Farbmodus&lt;/b&gt; gilt sofort.&lt;/p&gt;&lt;p&gt;Die Regler passen das Bild an und lassen sich auch als Zahl eingeben: -100 bis 100 um 0, Gamma 0.10 bis 3.00 um 1.00. Sie gelten, wenn Sie die Karte verlassen oder drucken.&lt;/p&gt;</translation>
+        <source>&lt;p&gt;&lt;b&gt;Color mode&lt;/b&gt; takes effect at once.&lt;/p&gt;&lt;p&gt;The sliders adjust the image, and their numbers can be typed. A mark shows where the image stays as it is; a double click goes there. They take effect when you leave the tab or print.&lt;/p&gt;</source>
+        <translation>&lt;p&gt;Der &lt;b&gt;Farbmodus&lt;/b&gt; gilt sofort.&lt;/p&gt;&lt;p&gt;Die Regler passen das Bild an; ihre Zahlen lassen sich auch eintippen. Eine Marke zeigt, wo das Bild bleibt, wie es ist; ein Doppelklick geht dorthin. Sie gelten, wenn Sie die Karte verlassen oder drucken.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Color &amp;mode:</source>
@@ -37,10 +37,6 @@
     <message>
         <source>&amp;Brightness:</source>
         <translation>&amp;Helligkeit:</translation>
-    </message>
-    <message>
-        <source>-100 to 100; 0 changes nothing</source>
-        <translation>-100 bis 100; 0 ändert nichts</translation>
     </message>
     <message>
         <source>Brightness</source>
@@ -63,8 +59,8 @@
         <translation>Kontrast als Zahl</translation>
     </message>
     <message>
-        <source>&amp;Saturation:</source>
-        <translation>&amp;Sättigung:</translation>
+        <source>Sa&amp;turation:</source>
+        <translation>Sä&amp;ttigung:</translation>
     </message>
     <message>
         <source>Saturation</source>
@@ -75,12 +71,8 @@
         <translation>Sättigung als Zahl</translation>
     </message>
     <message>
-        <source>&amp;Gamma:</source>
-        <translation>&amp;Gamma:</translation>
-    </message>
-    <message>
-        <source>0.10 to 3.00; 1.00 changes nothing</source>
-        <translation>0.10 bis 3.00; 1.00 ändert nichts</translation>
+        <source>G&amp;amma:</source>
+        <translation>G&amp;amma:</translation>
     </message>
     <message>
         <source>Gamma</source>
@@ -91,7 +83,7 @@
         <translation>Gamma als Zahl</translation>
     </message>
     <message>
-        <source>&amp;Red:</source>
+        <source>Re&amp;d:</source>
         <translation>&amp;Rot:</translation>
     </message>
     <message>
@@ -103,8 +95,8 @@
         <translation>Rot als Zahl</translation>
     </message>
     <message>
-        <source>Gr&amp;een:</source>
-        <translation>Grü&amp;n:</translation>
+        <source>&amp;Green:</source>
+        <translation>&amp;Grün:</translation>
     </message>
     <message>
         <source>Green</source>
@@ -131,7 +123,7 @@
     <name>Media7032PDE</name>
     <message>
         <source>&lt;p&gt;&lt;b&gt;Print quality&lt;/b&gt; and &lt;b&gt;print finish&lt;/b&gt; choose how the printer lays down color and what the surface looks like.&lt;/p&gt;&lt;p&gt;&lt;b&gt;Matte level&lt;/b&gt; and &lt;b&gt;dust removal&lt;/b&gt; are features of this printer model.&lt;/p&gt;&lt;p&gt;&lt;b&gt;Rotate&lt;/b&gt; and &lt;b&gt;mirror&lt;/b&gt; turn and flip the image. &lt;b&gt;Page scale&lt;/b&gt; is the size of the printed page in percent; 100 % is its true size.&lt;/p&gt;&lt;p&gt;Menus take effect at once; the page scale when you leave the tab or print.&lt;/p&gt;</source>
-        <translation>&lt;p&gt;&lt;b&gt;Druckqualität&lt;/b&gt; und &lt;b&gt;Oberfläche&lt;/b&gt; bestimmen, wie der Drucker die Farbe aufträgt und wie die Oberfläche aussieht.&lt;/p&gt;&lt;p&gt;&lt;b&gt;Mattgrad&lt;/b&gt; und &lt;b&gt;Entstaubung&lt;/b&gt; gibt es nur bei diesem Druckermodell.&lt;/p&gt;&lt;p&gt;&lt;b&gt;Drehen&lt;/b&gt; und &lt;b&gt;Spiegeln&lt;/b&gt; wenden das Bild. Die &lt;b&gt;Seitengröße&lt;/b&gt; ist die Größe der gedruckten Seite in Prozent; 100 % ist die wahre Größe.&lt;/p&gt;&lt;p&gt;Menüs gelten sofort; die Seitengröße, wenn Sie die Karte verlassen oder drucken.&lt;/p&gt;</translation>
+        <translation>&lt;p&gt;&lt;b&gt;Druckqualität&lt;/b&gt; und &lt;b&gt;Oberfläche&lt;/b&gt; bestimmen, wie der Drucker die Farbe aufträgt und wie die Oberfläche aussieht.&lt;/p&gt;&lt;p&gt;&lt;b&gt;Mattgrad&lt;/b&gt; und &lt;b&gt;Entstaubung&lt;/b&gt; gibt es nur bei diesem Druckermodell.&lt;/p&gt;&lt;p&gt;&lt;b&gt;Drehen&lt;/b&gt; und &lt;b&gt;Spiegeln&lt;/b&gt; wenden das Bild. Die &lt;b&gt;Skalierung&lt;/b&gt; ist die Größe der gedruckten Seite in Prozent; 100 % ist die wahre Größe.&lt;/p&gt;&lt;p&gt;Menüs gelten sofort; die Skalierung, wenn Sie die Karte verlassen oder drucken.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Print &amp;quality:</source>
@@ -146,7 +138,7 @@
         <translation>Druckqualität</translation>
     </message>
     <message>
-        <source>Print &amp;finish:</source>
+        <source>Print f&amp;inish:</source>
         <translation>Ober&amp;fläche:</translation>
     </message>
     <message>
@@ -170,8 +162,8 @@
         <translation>Mattgrad</translation>
     </message>
     <message>
-        <source>D&amp;ust removal:</source>
-        <translation>&amp;Entstaubung:</translation>
+        <source>&amp;Dust removal:</source>
+        <translation>En&amp;tstaubung:</translation>
     </message>
     <message>
         <source>Cleaning of the paper before printing</source>
@@ -182,8 +174,8 @@
         <translation>Entstaubung</translation>
     </message>
     <message>
-        <source>&amp;Rotate image:</source>
-        <translation>Bild d&amp;rehen:</translation>
+        <source>Ro&amp;tate image:</source>
+        <translation>Bild dre&amp;hen:</translation>
     </message>
     <message>
         <source>Turns the image on the page</source>
@@ -195,7 +187,7 @@
     </message>
     <message>
         <source>&amp;Mirror image:</source>
-        <translation>Bild &amp;spiegeln:</translation>
+        <translation>Bild s&amp;piegeln:</translation>
     </message>
     <message>
         <source>Flips the image</source>
@@ -206,23 +198,23 @@
         <translation>Bild spiegeln</translation>
     </message>
     <message>
-        <source>Page &amp;scale:</source>
-        <translation>Se&amp;itengröße:</translation>
+        <source>Pa&amp;ge scale:</source>
+        <translation>S&amp;kalierung:</translation>
     </message>
     <message>
-        <source>Size of the printed page, 10 to 400 %</source>
-        <translation>Größe der gedruckten Seite, 10 bis 400 %</translation>
+        <source>Size of the printed page</source>
+        <translation>Größe der gedruckten Seite</translation>
     </message>
     <message>
-        <source>Page scale in percent</source>
-        <translation>Seitengröße in Prozent</translation>
+        <source>Page scale</source>
+        <translation>Skalierung</translation>
     </message>
 </context>
 <context>
     <name>MediaPDE</name>
     <message>
         <source>&lt;p&gt;&lt;b&gt;Print quality&lt;/b&gt; and &lt;b&gt;print finish&lt;/b&gt; choose how the printer lays down color and what the surface looks like.&lt;/p&gt;&lt;p&gt;&lt;b&gt;Rotate&lt;/b&gt; and &lt;b&gt;mirror&lt;/b&gt; turn and flip the image. &lt;b&gt;Page scale&lt;/b&gt; is the size of the printed page in percent; 100 % is its true size.&lt;/p&gt;&lt;p&gt;Menus take effect at once; the page scale when you leave the tab or print.&lt;/p&gt;</source>
-        <translation>&lt;p&gt;&lt;b&gt;Druckqualität&lt;/b&gt; und &lt;b&gt;Oberfläche&lt;/b&gt; bestimmen, wie der Drucker die Farbe aufträgt und wie die Oberfläche aussieht.&lt;/p&gt;&lt;p&gt;&lt;b&gt;Drehen&lt;/b&gt; und &lt;b&gt;Spiegeln&lt;/b&gt; wenden das Bild. Die &lt;b&gt;Seitengröße&lt;/b&gt; ist die Größe der gedruckten Seite in Prozent; 100 % ist die wahre Größe.&lt;/p&gt;&lt;p&gt;Menüs gelten sofort; die Seitengröße, wenn Sie die Karte verlassen oder drucken.&lt;/p&gt;</translation>
+        <translation>&lt;p&gt;&lt;b&gt;Druckqualität&lt;/b&gt; und &lt;b&gt;Oberfläche&lt;/b&gt; bestimmen, wie der Drucker die Farbe aufträgt und wie die Oberfläche aussieht.&lt;/p&gt;&lt;p&gt;&lt;b&gt;Drehen&lt;/b&gt; und &lt;b&gt;Spiegeln&lt;/b&gt; wenden das Bild. Die &lt;b&gt;Skalierung&lt;/b&gt; ist die Größe der gedruckten Seite in Prozent; 100 % ist die wahre Größe.&lt;/p&gt;&lt;p&gt;Menüs gelten sofort; die Skalierung, wenn Sie die Karte verlassen oder drucken.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Print &amp;quality:</source>
@@ -237,7 +229,7 @@
         <translation>Druckqualität</translation>
     </message>
     <message>
-        <source>Print &amp;finish:</source>
+        <source>Print f&amp;inish:</source>
         <translation>Ober&amp;fläche:</translation>
     </message>
     <message>
@@ -249,8 +241,8 @@
         <translation>Oberfläche</translation>
     </message>
     <message>
-        <source>&amp;Rotate image:</source>
-        <translation>Bild d&amp;rehen:</translation>
+        <source>Ro&amp;tate image:</source>
+        <translation>Bild dre&amp;hen:</translation>
     </message>
     <message>
         <source>Turns the image on the page</source>
@@ -262,7 +254,7 @@
     </message>
     <message>
         <source>&amp;Mirror image:</source>
-        <translation>Bild &amp;spiegeln:</translation>
+        <translation>Bild s&amp;piegeln:</translation>
     </message>
     <message>
         <source>Flips the image</source>
@@ -273,16 +265,16 @@
         <translation>Bild spiegeln</translation>
     </message>
     <message>
-        <source>Page &amp;scale:</source>
-        <translation>Se&amp;itengröße:</translation>
+        <source>Pa&amp;ge scale:</source>
+        <translation>S&amp;kalierung:</translation>
     </message>
     <message>
-        <source>Size of the printed page, 10 to 400 %</source>
-        <translation>Größe der gedruckten Seite, 10 bis 400 %</translation>
+        <source>Size of the printed page</source>
+        <translation>Größe der gedruckten Seite</translation>
     </message>
     <message>
-        <source>Page scale in percent</source>
-        <translation>Seitengröße in Prozent</translation>
+        <source>Page scale</source>
+        <translation>Skalierung</translation>
     </message>
 </context>
 <context>
@@ -292,7 +284,7 @@
         <translation>&lt;p&gt;Der &lt;b&gt;Scharfzeichnungsfilter&lt;/b&gt; wird sofort ein- oder ausgeschaltet.&lt;/p&gt;&lt;p&gt;Die &lt;b&gt;Stärke&lt;/b&gt; sagt, wie kräftig Kanten geschärft werden, der &lt;b&gt;Radius&lt;/b&gt;, wie breit eine Kante ist, und der &lt;b&gt;Schwellwert&lt;/b&gt;, wie viel Kontrast als Kante gilt. Sie gelten, wenn Sie die Karte verlassen oder drucken.&lt;/p&gt;</translation>
     </message>
     <message>
-        <source>Sharpen &amp;filter:</source>
+        <source>Sharpen f&amp;ilter:</source>
         <translation>Scharfzeichnungs&amp;filter:</translation>
     </message>
     <message>
@@ -304,12 +296,8 @@
         <translation>Scharfzeichnungsfilter</translation>
     </message>
     <message>
-        <source>&amp;Amount (%):</source>
-        <translation>&amp;Stärke (%):</translation>
-    </message>
-    <message>
-        <source>0 to 500 %</source>
-        <translation>0 bis 500 %</translation>
+        <source>&amp;Amount:</source>
+        <translation>Stär&amp;ke:</translation>
     </message>
     <message>
         <source>Amount</source>
@@ -320,12 +308,8 @@
         <translation>Stärke als Zahl</translation>
     </message>
     <message>
-        <source>&amp;Radius (pixels):</source>
-        <translation>&amp;Radius (Pixel):</translation>
-    </message>
-    <message>
-        <source>0 to 50 pixels</source>
-        <translation>0 bis 50 Pixel</translation>
+        <source>Ra&amp;dius:</source>
+        <translation>&amp;Radius:</translation>
     </message>
     <message>
         <source>Radius</source>
@@ -338,10 +322,6 @@
     <message>
         <source>&amp;Threshold (levels):</source>
         <translation>Sch&amp;wellwert (Stufen):</translation>
-    </message>
-    <message>
-        <source>0 to 255 levels</source>
-        <translation>0 bis 255 Stufen</translation>
     </message>
     <message>
         <source>Threshold</source>

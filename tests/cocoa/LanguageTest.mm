@@ -30,20 +30,20 @@ TEST_F(LanguageTest, English) {
   EXPECT_THAT(captions(@"MediaPDE"), ElementsAre("Media", "Print quality:", "Print finish:",
                                                  "Rotate image:", "Mirror image:", "Page scale:"));
   EXPECT_THAT(captions(@"SharpenPDE"), ElementsAre("Sharpen", "Sharpen filter:", "Amount (%):",
-                                                   "Radius (pixels):", "Threshold (levels):"));
+                                                   "Radius (px):", "Threshold (levels):"));
 }
 
 TEST_F(LanguageTest, German) {
   if (!isIn(@"German")) GTEST_SKIP();
   EXPECT_THAT(captions(@"MediaPDE"), ElementsAre("Medium", "Druckqualität:", "Oberfläche:",
-                                                 "Bild drehen:", "Bild spiegeln:", "Seitengröße:"));
+                                                 "Bild drehen:", "Bild spiegeln:", "Skalierung:"));
   EXPECT_THAT(captions(@"Media7032PDE"),
               ElementsAre("Medium", "Druckqualität:", "Oberfläche:", "Mattgrad:", "Entstaubung:",
-                          "Bild drehen:", "Bild spiegeln:", "Seitengröße:"));
+                          "Bild drehen:", "Bild spiegeln:", "Skalierung:"));
   EXPECT_THAT(captions(@"ColorPDE"), ElementsAre("Farbe", "Farbmodus:", "Helligkeit:", "Kontrast:",
                                                  "Sättigung:", "Gamma:", "Rot:", "Grün:", "Blau:"));
   EXPECT_THAT(captions(@"SharpenPDE"),
-              ElementsAre("Schärfe", "Scharfzeichnungsfilter:", "Stärke (%):", "Radius (Pixel):",
+              ElementsAre("Schärfe", "Scharfzeichnungsfilter:", "Stärke (%):", "Radius (px):",
                           "Schwellwert (Stufen):"));
 }
 

@@ -1,10 +1,15 @@
 // The whole dialog: the module as a program loads it, its panels in tabs, keys and Print.
 #include <fmt/format.h>
 
+#include <QAbstractItemView>
+#include <QAbstractSpinBox>
+#include <QAccessible>
 #include <QApplication>
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
 #include <QTabWidget>
 #include <QTest>
 
@@ -14,6 +19,8 @@
 #include "host/JobOptions.h"
 #include "host/TraceTo.h"
 #include "tests/support/PanelFixture.h"
+#include "tests/support/TemporaryFolder.h"
+#include "tests/support/Walk.h"
 
 namespace kwopde::test {
 namespace {
@@ -34,8 +41,13 @@ public:
 
 class Dialog : public testing::Test {
 protected:
-  void open(const std::string &sample) {
-    session_ = std::make_shared<host::PpdSession>(host::PpdFile::open(samplePath(sample)));
+  void open(const std::string &sample) { openFile(samplePath(sample)); }
+  /// Opens a PPD with these options.
+  void openText(const std::string &options) {
+    openFile(folder_.write("test.ppd", ppdText(options)));
+  }
+  void openFile(const std::string &path) {
+    session_ = std::make_shared<host::PpdSession>(host::PpdFile::open(path));
     session_->addObserver(&requests_);
     dialog_.emplace(module_, session_, "photo.png");
     tabs_ = dialog_->findChild<QTabWidget *>();
@@ -58,6 +70,7 @@ protected:
     return lines;
   }
 
+  const TemporaryFolder folder_;
   TraceRecorder trace_;
   PlugInModule &module_ = dialog::loadModule();
   const host::TraceTo tracing_{module_, &trace_};
@@ -85,19 +98,6 @@ TEST_F(Dialog, LoadsAPanelWhenItsTabIsFirstSeenAndTellsItOfShowingAndLeaving) {
   EXPECT_NE(dialog_->findChild<QSlider *>("gammaSlider"), nullptr);
   dialog_->close();
   EXPECT_THAT(trace_.takeMessages(), testing::Not(Contains("BEGIN shouldHide:")));
-}
-
-TEST_F(Dialog, TabKeyVisitsTheControlsInTheirOrder) {
-  open("kwo-1200.ppd");
-  tabs_->tabBar()->setFocus();
-  QStringList visited;
-  for (int i = 0; i < 6; ++i) {
-    QTest::keyClick(dialog_->focusWidget(), Qt::Key_Tab);
-    visited.append(dialog_->focusWidget()->objectName());
-  }
-  EXPECT_EQ(visited.mid(0, 5),
-            QStringList({"printQualityPopUp", "printFinishPopUp", "rotateImagePopUp",
-                         "mirrorImagePopUp", "pageScaleEdit"}));
 }
 
 // One user works every panel; every request reaches the host, in order, and Print settles all.
@@ -134,6 +134,164 @@ TEST_F(Dialog, CarriesEverySettingToTheHost) {
   EXPECT_THAT(changed(), ElementsAre("printQuality=Fine", "pageScale=85", "colorMode=Vivid",
                                      "imageBrightness=1", "imageGamma=1.780000", "colorRed=-7",
                                      "sharpnessAmount=20"));
+}
+
+// Somebody scrolls past the controls.
+TEST_F(Dialog, WheelChangesNothingButWhereTheFocusIs) {
+  open("kwo-7032.ppd");
+  const auto turnOver = [](QWidget &control) {
+    const QPointF at = control.rect().center();
+    QWheelEvent event(at, control.mapToGlobal(at), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&control, &event);
+  };
+  auto &quality = widget<QComboBox>("printQualityPopUp");
+  const auto &scale = widget<QLineEdit>("pageScaleEdit");
+  auto &arrows = widget<QAbstractSpinBox>("pageScaleEditBox");
+  tabs_->setFocus();
+  turnOver(quality);
+  turnOver(arrows);
+  EXPECT_EQ(quality.currentText() + scale.text(), "Normal100 %");
+  quality.setFocus();
+  turnOver(quality);
+  arrows.setFocus();
+  turnOver(arrows);
+  EXPECT_EQ(quality.currentText() + scale.text(), "Fine99 %");
+  tabs_->setCurrentIndex(1);
+  turnOver(widget<QSlider>("redSlider"));
+  EXPECT_EQ(widget<QSlider>("redSlider").value(), 0);
+}
+
+// Numbers that the panel reads as it would read typed ones.
+TEST_F(Dialog, StepsThroughTheNumbersThatThePrinterTakes) {
+  open("kwo-7032.ppd");
+  tabs_->setCurrentIndex(1);
+  auto &gamma = widget<QLineEdit>("gammaLabel");
+  EXPECT_EQ(gamma.text(), "1.00");
+  const auto press = [](QLineEdit &field, std::initializer_list<Qt::Key> keys) {
+    field.setFocus();
+    for (const Qt::Key key : keys) QTest::keyClick(field.parentWidget(), key);
+    return field.text();
+  };
+  EXPECT_EQ(press(gamma, {Qt::Key_Up, Qt::Key_PageUp, Qt::Key_PageUp, Qt::Key_Down}), "1.20");
+  EXPECT_EQ(widget<QSlider>("gammaSlider").value(), 1200);
+  QAccessibleInterface *told = QAccessible::queryAccessibleInterface(gamma.parentWidget());
+  EXPECT_EQ(told->valueInterface()->currentValue(), 1.2);
+  auto &red = widget<QLineEdit>("redLabel");
+  red.setText("99");
+  EXPECT_EQ(press(red, {Qt::Key_PageUp, Qt::Key_Up}), "100");
+  tabs_->setCurrentIndex(2);
+  EXPECT_THAT(requests_.all, testing::IsSupersetOf({"imageGamma=1.200000", "colorRed=100"}));
+  EXPECT_EQ(press(widget<QLineEdit>("radiusLabel"), {Qt::Key_Down, Qt::Key_Down}), "0");
+}
+
+TEST_F(Dialog, SlidersReachWhatThePrinterTakesAndSaySo) {
+  openText(
+      option("colorMode", "Mode", "Color", {{"Color", "Color"}}) +
+      option("imageBrightness", "Brightness", "0", {{"-150", "-150"}, {"0", "0"}, {"5", "5"}}) +
+      option("imageGamma", "Gamma", "1", {{"1", "1"}}) +
+      "*CustomimageGamma True: \"pop\"\n*ParamCustomimageGamma G/G: 1 real 0.5 4\n");
+  tabs_->setCurrentIndex(0);
+  const auto &brightness = widget<QSlider>("brightnessSlider");
+  EXPECT_EQ(std::pair(brightness.minimum(), brightness.maximum()), std::pair(-150, 5));
+  EXPECT_EQ(brightness.toolTip(), "-150 to 5; 0 changes nothing");
+  auto &arrows = widget<QAbstractSpinBox>("brightnessLabelBox");
+  for (const auto &[steps, number] : {std::pair(1, "5"), {1, "5"}, {-2, "-150"}}) {
+    arrows.stepBy(steps);
+    EXPECT_EQ(arrows.text().toStdString(), number);
+  }
+  auto &gamma = widget<QSlider>("gammaSlider");
+  EXPECT_EQ(std::pair(gamma.minimum(), gamma.maximum()), std::pair(500, 4000));
+  EXPECT_EQ(gamma.toolTip(), "0.50 to 4.00; 1.00 changes nothing");
+  widget<QLineEdit>("gammaLabel").setText("5");
+  dialog_->accept();
+  EXPECT_EQ(tabs_->currentWidget()->findChild<QLabel *>("notice")->text(),
+            "Gamma cannot be 5: this printer takes 0.5 to 4. The job would print 1.");
+  gamma.setSliderPosition(2500);
+  EXPECT_EQ(widget<QLineEdit>("gammaLabel").text(), "2.50");
+  QTest::mouseDClick(&gamma, Qt::LeftButton, {}, gamma.rect().center());
+  EXPECT_EQ(widget<QLineEdit>("gammaLabel").text(), "1.00");
+}
+
+TEST_F(Dialog, TellsWhatIsOtherThanThePrintersDefaultsAndPutsThatBack) {
+  open("kwo-7032.ppd");
+  const auto differences = [&] {
+    const auto *label = tabs_->currentWidget()->findChild<QLabel *>("differences");
+    return label->isVisible() ? label->text() : QString();
+  };
+  const auto isBold = [&](const char *caption) { return widget<QLabel>(caption).font().bold(); };
+  EXPECT_EQ(differences(), QString());
+  QTest::keyClick(&widget<QComboBox>("printQualityPopUp"), Qt::Key_Down);
+  EXPECT_EQ(differences(), "One setting differs from the printer's defaults.");
+  widget<QLineEdit>("pageScaleEdit").selectAll();
+  QTest::keyClicks(&widget<QLineEdit>("pageScaleEdit"), "85");  // typed, and not marked yet
+  EXPECT_EQ(differences(), "2 settings differ from the printer's defaults.");
+  EXPECT_TRUE(isBold("printQualityLabel") && isBold("pageScaleLabel"));
+  EXPECT_FALSE(isBold("printFinishLabel"));
+  tabs_->setCurrentIndex(1);
+  widget<QSlider>("redSlider").setSliderPosition(7);
+  EXPECT_TRUE(isBold("redCaption"));
+
+  tabs_->setCurrentIndex(3);
+  const auto labels = tabs_->currentWidget()->findChild<QScrollArea *>()->findChildren<QLabel *>();
+  QStringList bold;
+  for (const QLabel *label : labels)
+    if (label->font().bold()) bold.append(label->text());
+  EXPECT_EQ(bold.mid(0, 5), QStringList({"Other than the printer's defaults",
+                                         "Print Quality:", "Fine", "Page Scale:", "85 %"}));
+
+  tabs_->setCurrentIndex(0);
+  tabs_->currentWidget()->findChild<QPushButton *>("resetPage")->click();
+  EXPECT_EQ(differences(), QString());
+  EXPECT_EQ(widget<QComboBox>("printQualityPopUp").currentText(), "Normal");
+  EXPECT_EQ(widget<QLineEdit>("pageScaleEdit").text(), "100 %");
+  EXPECT_THAT(changed(), ElementsAre("colorRed=7"));
+}
+
+TEST_F(Dialog, LongMenusLeaveTheScreenFreeAndTakeTyping) {
+  std::string menu = "*OpenUI *printFinish/Finish: PickOne\n*DefaultprintFinish: c0\n";
+  for (int i = 0; i < 300; ++i) menu += fmt::format("*printFinish c{0}/Choice {0}: \"\"\n", i);
+  openText(menu + "*CloseUI: *printFinish\n");
+  auto &finish = widget<QComboBox>("printFinishPopUp");
+  finish.showPopup();
+  EXPECT_LT(finish.view()->window()->height(), dialog_->screen()->geometry().height() * 2 / 3);
+  QTest::keyClicks(finish.view(), "Choice 299");
+  QTest::keyClick(finish.view(), Qt::Key_Return);
+  EXPECT_EQ(session_->markedChoice("printFinish"), "c299");
+}
+
+TEST_F(Dialog, IsWorkedByTheKeyboardAloneAndSeenWithoutScrolling) {
+  const auto check = [&] {
+    open("kwo-7032.ppd");
+    dialog_->resize(dialog_->sizeHint());  // as on a screen that is large enough
+    QTest::keyClick(dialog_->focusWidget(), Qt::Key_Tab, Qt::ControlModifier);
+    EXPECT_EQ(tabs_->currentIndex(), 1) << "Ctrl+Tab, at once";
+    tabs_->tabBar()->setFocus();
+    auto order = tabOrder(*dialog_);
+    EXPECT_THAT(order, Contains("help"));
+    order.resize(5);
+    EXPECT_THAT(order, ElementsAre("qt_tabwidget_tabbar", "colorModePopUp", "brightnessSlider",
+                                   "brightnessLabelBox", "contrastSlider"));
+    for (int page = 0; page < tabs_->count(); ++page) {
+      tabs_->setCurrentIndex(page);
+      EXPECT_THAT(tabOrder(*dialog_), testing::UnorderedElementsAreArray(tabStops(*dialog_)));
+      EXPECT_THAT(sharedMnemonics(*tabs_->currentWidget()), testing::IsEmpty());
+      EXPECT_NE(helpOf(*dialog_), "") << page;
+      EXPECT_EQ(cutOff(*tabs_->currentWidget()), "") << page;
+    }
+  };
+  check();
+  dialog_.reset();
+  const German german;
+  check();
+  EXPECT_EQ(tabs_->tabText(3), QString("Übersicht"));
+  dialog_.reset();
+  const QFont usual = QApplication::font();
+  QFont large = usual;
+  large.setPointSizeF(1.5 * usual.pointSizeF());
+  QApplication::setFont(large);
+  check();
+  QApplication::setFont(usual);
 }
 
 TEST_F(Dialog, PrintingLeavesPanelsAloneThatNobodyHasSeen) {

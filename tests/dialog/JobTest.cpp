@@ -342,7 +342,7 @@ TEST_F(DialogJobs, KeepWhatIsTypedAndAskAboutWhatIsRefused) {
   dialog.findChild<QTabWidget *>()->setCurrentIndex(3);
   dialog.accept();
   EXPECT_TRUE(dialog.isVisible());
-  EXPECT_EQ(dialog.focusWidget(), &scale);
+  EXPECT_EQ(dialog.focusWidget(), scale.focusProxy());
   EXPECT_EQ(dialog.findChild<QTabWidget *>()->currentIndex(), 2);
   dialog.accept();
   ASSERT_TRUE(dialog.jobId());

@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QDialogButtonBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -13,6 +14,7 @@
 #include <QPushButton>
 #include <QSlider>
 #include <QTabWidget>
+#include <QTest>
 #include <QTimer>
 #include <fstream>
 #include <iomanip>
@@ -21,6 +23,7 @@
 #include "attach/kwopde/attach.h"
 #include "dialog/ModuleLoader.h"
 #include "dialog/QueueDialog.h"
+#include "dialog/SettingsDialog.h"
 #include "host/Error.h"
 #include "host/JobOptions.h"
 #include "queue/CupsConnection.h"
@@ -29,6 +32,7 @@
 #include "tests/support/JobAttributes.h"
 #include "tests/support/TemporaryFolder.h"
 #include "tests/support/TestPpd.h"
+#include "tests/support/Walk.h"
 
 namespace kwopde::test {
 namespace {
@@ -192,6 +196,54 @@ TEST_F(QtDialog, ShowsThePanelsOfTheChosenPrinter) {
   EXPECT_TRUE(tabs(dialog).isEmpty());
   dialog.accept();
   EXPECT_FALSE(options(printer_).contains("pageScale"));
+}
+
+/// Works `dialog`, which has `pages` of its own behind Qt's tabs, without a mouse.
+void expectUsable(QDialog &dialog, int pages) {
+  dialog.show();
+  QApplication::setActiveWindow(&dialog);
+  QApplication::processEvents();
+  auto *tabs = dialog.findChild<QTabWidget *>();
+  QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab, Qt::ControlModifier);
+  EXPECT_EQ(tabs->currentIndex(), 1) << "Ctrl+Tab, at once";
+  for (int page = tabs->count() - pages; page < tabs->count(); ++page) {
+    tabs->setCurrentIndex(page);
+    EXPECT_THAT(tabOrder(dialog), testing::UnorderedElementsAreArray(tabStops(dialog)));
+    EXPECT_THAT(sharedMnemonics(*tabs->currentWidget()), testing::IsEmpty());
+    EXPECT_NE(helpOf(dialog), "") << page;
+    EXPECT_EQ(cutOff(*tabs->currentWidget()), "") << page;
+  }
+}
+
+TEST_F(QtDialog, IsWorkedByTheKeyboardAloneAndSeenWithoutScrolling) {
+  const auto check = [&](const char *print) {
+    dialog::QueueDialog dialog(dialog::loadModule(), printer_, {document("photo.txt", "photo")});
+    expectUsable(dialog, 4);
+    EXPECT_THAT(dialog.windowTitle().toStdString(), HasSubstr("photo.txt"));
+    auto *buttons = dialog.findChild<QDialogButtonBox *>();
+    QEvent languageWasLoaded(QEvent::LanguageChange);
+    QApplication::sendEvent(buttons, &languageWasLoaded);
+    QApplication::processEvents();
+    EXPECT_EQ(buttons->button(QDialogButtonBox::Ok)->text().toStdString(), print);
+    dialog::SettingsDialog settings(dialog::loadModule(), {"kwo-7032"}, "kwo-7032");
+    expectUsable(settings, 4);
+  };
+  check("&Print");
+  const German german;
+  check("&Drucken");
+}
+
+TEST_F(QtDialog, GivesPanelsRoomWhereItFoldsThemAway) {
+  QPrintDialog open(&printer_);
+  attachPanels(&open, true);
+  QPrintDialog folded(&printer_);
+  attachPanels(&folded);
+  for (QPrintDialog *dialog : {&open, &folded}) {
+    auto *tabs = dialog->findChild<QTabWidget *>();
+    EXPECT_EQ(tabs->isVisibleTo(dialog), dialog == &open);
+    QtDialog::open(*dialog, 3);
+    EXPECT_GE(tabs->currentWidget()->height(), 20 * dialog->fontMetrics().height());
+  }
 }
 
 TEST_F(QtDialog, TwoDialogsOfOneQueueKeepTheirSettingsApart) {

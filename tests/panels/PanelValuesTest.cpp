@@ -145,7 +145,7 @@ TEST(ColorValues, GammaIsCutWhenSlidOrTypedAndNotWhenReadOrAnnounced) {
     double slid;
     double value;
     const char *shown;
-  } rows[] = {{1.789, 1.78, "1.78"}, {1.15, 1.14, "1.14"}, {0.29, 0.28, "0.28"}, {9, 3, "3"}};
+  } rows[] = {{1.789, 1.78, "1.78"}, {1.15, 1.14, "1.14"}, {0.29, 0.28, "0.28"}, {9, 3, "3.00"}};
   for (const auto &row : rows) {
     on.user.slide(*on.panel->gammaSlider.get(), row.slid);
     EXPECT_EQ(on.panel->gammaValue, row.value);

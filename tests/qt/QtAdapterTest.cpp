@@ -1,10 +1,12 @@
 // Real input on real widgets, and interface files and translations that are not as they should be.
 #include <QAbstractItemView>
+#include <QAccessible>
 #include <QApplication>
 #include <QLabel>
 #include <QTemporaryDir>
 #include <QTest>
 
+#include "platform/Numbers.h"
 #include "qt/QtBundle.h"
 #include "qt/QtControls.h"
 #include "tests/support/PanelFixture.h"
@@ -100,6 +102,29 @@ TEST(QtSlider, CarriesFractionsAndRestsAtItsEnds) {
   EXPECT_EQ(slider.control.doubleValue(), 0.1);
 }
 
+TEST(NumberSlider, IsFilledFromItsNeutralAndSpeaksAsANumber) {
+  PanelOn<ColorPDE> on(option("colorMode", "C", "A", {{"A", "A"}}) +
+                       option("imageGamma", "G", "1", {{"1", "1"}}));
+  on.shown();
+  auto &slider = on.widget<QSlider>("gammaSlider");
+  // The neutral is at 31 percent, and nothing at 95 is ever filled.
+  static_cast<QWidget *>(on.panel->pdeView->nativeView())->resize(600, 400);
+  const auto isFilled = [&](int percent) {
+    const QImage image = slider.grab().toImage();
+    const auto at = [&](int x) { return image.pixel(image.width() * x / 100, image.height() / 2); };
+    return at(percent) != at(95);
+  };
+  EXPECT_FALSE(isFilled(15));
+  QAccessibleInterface *told = QAccessible::queryAccessibleInterface(&slider);
+  ASSERT_TRUE(told && told->valueInterface());
+  EXPECT_EQ(told->text(QAccessible::Value), QString("1.00"));
+  EXPECT_EQ(told->valueInterface()->maximumValue().toDouble(), 3);
+  told->valueInterface()->setCurrentValue(2.5);  // as a person with a screen reader does
+  EXPECT_EQ(on.panel->gammaValue, 2.5);
+  EXPECT_TRUE(isFilled(55));
+  EXPECT_FALSE(isFilled(15));
+}
+
 TEST(QtTextField, HasTheTextThatPeopleSee) {
   QLabel label("&Tom && Jerry");
   QLineEdit line("&a");
@@ -139,6 +164,25 @@ TEST(QtTextField, HasNumbersAsPeopleWriteThem) {
   EXPECT_EQ(field.doubleValue(), 1.78);
   field.setStringValue("100 %");
   EXPECT_EQ(line.text(), QString("100 %"));
+  // Digits are added, never cut.
+  line.setProperty("decimals", 2);
+  for (const auto &[text, shown] : {std::pair("1", "1,00"),
+                                    {"1.789", "1,789"},
+                                    {"-0.5 %", "-0,50 %"},
+                                    {"1e+20", "1e+20"},
+                                    {"abc", "abc"}}) {
+    field.setStringValue(text);
+    EXPECT_EQ(line.text(), QString(shown));
+    EXPECT_EQ(field.doubleValue(), leadingDouble(text));
+  }
+  // No language's decimal sign makes another number of it.
+  for (const char *language : {"ar_EG", "fa_IR", "de_CH", "hi_IN", "sv_SE"}) {
+    QLocale::setDefault(QLocale(language));
+    for (const double number : {1.78, -7.5}) {
+      field.setDoubleValue(number);
+      EXPECT_EQ(field.doubleValue(), number) << language << line.text().toStdString();
+    }
+  }
   QLocale::setDefault(before);
 }
 

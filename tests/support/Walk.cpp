@@ -1,0 +1,118 @@
+#include "tests/support/Walk.h"
+
+#include <fmt/format.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QKeySequence>
+#include <QLabel>
+#include <QMap>
+#include <QScrollArea>
+#include <QSet>
+#include <QTabBar>
+#include <QTest>
+#include <QWhatsThis>
+#include <algorithm>
+
+#include "dialog/Translations.h"
+
+namespace kwopde::test {
+
+namespace {
+
+std::string nameOf(const QWidget &widget) {
+  return widget.objectName().isEmpty() ? widget.metaObject()->className()
+                                       : widget.objectName().toStdString();
+}
+
+bool takesTab(const QWidget &widget) {
+  return widget.isVisible() && widget.isEnabled() && (widget.focusPolicy() & Qt::TabFocus) &&
+         !widget.focusProxy();
+}
+
+/// The texts of `widget` that can have a mnemonic which works now.
+QStringList textsOf(const QWidget &widget) {
+  if (!widget.isVisible() || !widget.isEnabled()) return {};
+  if (const auto *label = qobject_cast<const QLabel *>(&widget); label && label->buddy())
+    return {label->text()};
+  if (const auto *button = qobject_cast<const QAbstractButton *>(&widget)) return {button->text()};
+  QStringList texts;
+  if (const auto *tabs = qobject_cast<const QTabBar *>(&widget))
+    for (int i = 0; i < tabs->count(); ++i) texts.append(tabs->tabText(i));
+  return texts;
+}
+
+/// So that `installTranslations` installs those of another language.
+void removeTranslations() {
+  for (const char *name : {"qtbase", "kwopde-host"})
+    delete QCoreApplication::instance()->findChild<QTranslator *>(name);
+}
+
+}  // namespace
+
+std::vector<std::string> tabOrder(QWidget &window) {
+  std::vector<std::string> visited;
+  const QWidget *const first = window.focusWidget();
+  do {
+    visited.push_back(nameOf(*window.focusWidget()));
+    QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
+  } while (window.focusWidget() != first && visited.size() < 100);
+  return visited;
+}
+
+std::vector<std::string> tabStops(const QWidget &window) {
+  std::vector<std::string> stops;
+  for (const QWidget *widget : window.findChildren<QWidget *>())
+    if (takesTab(*widget)) stops.push_back(nameOf(*widget));
+  std::sort(stops.begin(), stops.end());
+  return stops;
+}
+
+std::vector<std::string> sharedMnemonics(const QWidget &page) {
+  QMap<QKeySequence, std::vector<std::string>> texts;
+  QSet<QKeySequence> ours;
+  for (const QWidget *widget : page.window()->findChildren<QWidget *>())
+    for (const QString &text : textsOf(*widget)) {
+      const QKeySequence key = QKeySequence::mnemonic(text);
+      if (key.isEmpty()) continue;
+      texts[key].push_back(text.toStdString());
+      if (page.isAncestorOf(widget)) ours.insert(key);
+    }
+  std::vector<std::string> shared;
+  for (const QKeySequence &key : ours)
+    if (texts[key].size() > 1) shared.insert(shared.end(), texts[key].begin(), texts[key].end());
+  return shared;
+}
+
+std::string helpOf(QWidget &window) {
+  QTest::keySequence(window.focusWidget(), QKeySequence::HelpContents);
+  for (QWidget *told : QApplication::topLevelWidgets()) {
+    if (!told->inherits("QWhatsThat") || !told->isVisible()) continue;
+    const std::string text = told->property("text").toString().toStdString();
+    QWhatsThis::hideText();
+    return text.empty() ? "told" : text;
+  }
+  return {};
+}
+
+std::string cutOff(const QWidget &page) {
+  const auto *area = page.findChild<QScrollArea *>();
+  const QSize more =
+      (area->widget()->minimumSizeHint() - area->viewport()->size()).expandedTo({0, 0});
+  return more.isNull() ? std::string() : fmt::format("{}+{}", more.height(), more.width());
+}
+
+German::German() {
+  removeTranslations();
+  QLocale::setDefault(QLocale(QLocale::German));
+  dialog::installTranslations();
+  if (panels_.load(QLocale(), "kwopde", "_", ":/kwopde"))
+    QCoreApplication::installTranslator(&panels_);
+}
+
+German::~German() {
+  removeTranslations();
+  QLocale::setDefault(before_);
+}
+
+}  // namespace kwopde::test
