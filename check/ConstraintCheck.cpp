@@ -99,7 +99,7 @@ void ConstraintCheck::takeConflict(const ConstraintLine &constraint) {
       conflict.others += fmt::format("{}{}, {}", conflict.others.empty() ? "" : ", and that of ",
                                      option.option->keyword, option.byDefault);
   }
-  if (options.size() > 1) conflicts_.try_emplace(options, conflict);
+  conflicts_.try_emplace(options, conflict);
 }
 
 void ConstraintCheck::take(const ConstraintLine &constraint) {

@@ -35,7 +35,7 @@ constexpr ChoiceFault kSameTitle{Severity::error, "",
                                  "give the two options different texts"};
 
 bool isControl(char c) {
-  return (c >= 0 && c < ' ') || c == 0x7F;
+  return (c > 0 && c < ' ') || c == 0x7F;
 }
 
 bool isBlank(std::string_view text) {
