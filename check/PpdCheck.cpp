@@ -1,20 +1,21 @@
 #include "check/PpdCheck.h"
 
 #include <fmt/format.h>
-#include <utf8.h>
 
 #include <algorithm>
-#include <cmath>
-#include <cstdio>
-#include <cstdlib>
-#include <cstring>
-#include <functional>
-#include <map>
+#include <memory>
 #include <optional>
+#include <set>
+#include <utility>
 
-#include "host/Constraints.h"
+#include "check/ConstraintCheck.h"
+#include "check/Findings.h"
+#include "check/NumberCheck.h"
+#include "check/OptionCheck.h"
+#include "check/PpdLines.h"
+#include "check/TextCheck.h"
+#include "host/Error.h"
 #include "host/Extension.h"
-#include "host/MarkableChoice.h"
 #include "host/PpdSession.h"
 #include "host/Stream.h"
 #include "host/TraceTo.h"
@@ -27,40 +28,13 @@ namespace {
 
 using Severity = Finding::Severity;
 
-/// Where keywords stand in a PPD file.
-class LineIndex {
-public:
-  /// `file`, read to its end, stays the caller's.
-  explicit LineIndex(std::FILE *file) {
-    char *block = nullptr;
-    std::size_t room = 0;
-    for (int number = 1; getline(&block, &room, file) > 0; ++number) {
-      // "*OpenUI *key/Text: ...", "*Defaultkey: ...", "*key choice/Text: ..."
-      const std::string_view line(block);
-      if (line.starts_with('*'))
-        lines_.try_emplace(std::string(line.substr(0, line.find_first_of("/:\r\n"))), number);
-    }
-    std::free(block);
+host::PpdFile opened(std::FILE *file, const std::string &path) {
+  try {
+    return host::PpdFile::readAsWritten(file, path);
+  } catch (const host::Error &error) {
+    throw host::Error(fmt::format(
+        "{}; no dialog and no server opens such a file, and cupstestppd tells more", error.what()));
   }
-
-  int option(const std::string &key) const { return find("*OpenUI *" + key); }
-  int defaultOf(const std::string &key) const { return find("*Default" + key); }
-  int choice(const std::string &key, const std::string &choice) const {
-    return find("*" + key + " " + choice);
-  }
-
-private:
-  int find(const std::string &start) const {
-    const auto line = lines_.find(start);
-    return line == lines_.end() ? 0 : line->second;
-  }
-
-  std::map<std::string, int> lines_;
-};
-
-bool isAscii(const char *text) {
-  return std::all_of(text, text + std::strlen(text),
-                     [](char c) { return static_cast<unsigned char>(c) < 0x80; });
 }
 
 class Checker {
@@ -68,161 +42,143 @@ public:
   Checker(PlugInModule &module, const std::string &path)
       : module_(module),
         file_(host::openRepeatable(path)),
-        lines_(file_.get()),
-        session_(
-            std::make_shared<host::PpdSession>(host::PpdFile::readUntrimmed(file_.get(), path))) {
+        session_(std::make_shared<host::PpdSession>(opened(file_.get(), path))),
+        ppd_(session_->ppdFile()) {
+    if (const ModuleInspector *inspector = inspectorOf(module))
+      classes_ = inspector->requirements();
     report_.file = path;
   }
 
   PpdReport run() {
     const host::Untraced untraced(module_);
     host::Extension extension(module_, session_);
-    if (const PanelList *panels = extension.open())
+    const PanelList *panels = extension.open();
+    if (panels)
+      for (const auto &panel : *panels) meet(*panel);
+    for (const PanelRequirement &panelClass : classes_)
+      keys_.insert(panelClass.keys.begin(), panelClass.keys.end());
+
+    ConstraintCheck constraints(ppd_, keys_);
+    lines_.emplace(file_.get(), keys_,
+                   [&](const ConstraintLine &constraint) { constraints.take(constraint); });
+    if (panels)
       for (const auto &panel : *panels) checkPanel(*panel);
-    checkMissingPanels();
-    std::stable_sort(report_.findings.begin(), report_.findings.end(),
-                     [](const Finding &a, const Finding &b) { return a.line < b.line; });
+    constraints.report(*lines_, findings_);
+    checkUnshown();
+    report_.findings = findings_.take();
     return std::move(report_);
   }
 
 private:
-  void find(Severity severity, const std::string &option, int line, std::string message,
-            std::string advice) {
-    report_.findings.push_back({severity, option, line, std::move(message), std::move(advice)});
-  }
+  ppd_option_t *optionOf(const std::string &key) const { return ppdFindOption(ppd_, key.c_str()); }
 
-  void checkMissingPanels() {
-    const ModuleInspector *inspector = inspectorOf(module_);
-    if (!inspector) return;
-    std::string before;  // the media panels need the same, so one note is enough
-    for (const PanelRequirement &needed : inspector->requirements()) {
-      const std::string keys = fmt::format("{}", fmt::join(needed.anyOf, " or "));
-      const bool appears =
-          std::any_of(needed.anyOf.begin(), needed.anyOf.end(), [&](const std::string &key) {
-            return ppdFindOption(session_->ppdFile(), key.c_str()) != nullptr;
-          });
-      if (!appears && keys != before)
-        find(Severity::note, {}, 0,
-             fmt::format("{} does not appear, since the PPD has no {}", needed.className, keys),
-             "add the option if the printer has it");
-      before = keys;
-    }
-  }
-
-  void checkPanel(Panel &panel) {
+  void meet(Panel &panel) {
     report_.panels.emplace_back(panel.className());
     panel.panelView();  // it has the sliders
-    std::map<std::string, std::string> titles;
     for (const PanelOption &row : optionsOf(panel)) {
-      ppd_option_t *option = ppdFindOption(session_->ppdFile(), row.key.c_str());
-      if (!option) {
-        find(Severity::note, row.key, 0,
-             fmt::format("{} has a control for it, but the PPD has no such option",
-                         panel.className()),
+      keys_.insert(row.key);
+      if (optionOf(row.key)) shown_.insert(row.key);
+    }
+  }
+
+  void checkPanel(const Panel &panel) {
+    std::vector<std::string> absent;
+    for (const PanelOption &row : optionsOf(panel)) {
+      ppd_option_t *option = optionOf(row.key);
+      const PpdLines::Option &lines = lines_->of(row.key);
+      if (!option && !lines.choices.empty())
+        findings_.add({Severity::error, row.key, lines.choices.begin()->second.lines.front(),
+                       "it is not offered, since its choices stand outside *OpenUI and *CloseUI",
+                       fmt::format("put *OpenUI *{} before them", row.key)});
+      else if (!option)
+        absent.push_back(row.key);
+      if (!option) continue;
+      checkDefinitions(row.key, lines);
+      checkOption(ppd_, *option, row, lines, findings_);
+      checkTexts(*option, row, lines, findings_);
+      if (row.kind != PanelOption::Kind::choice)
+        checkNumbers(ppd_, *option, row, inspectorOf(panel)->control<Slider>(row.slider), lines,
+                     findings_);
+    }
+    checkTitles(ppd_, optionsOf(panel), *lines_, findings_);
+    if (!absent.empty())
+      note(fmt::format("{} has controls for {}, which the PPD does not have", panel.className(),
+                       fmt::join(absent, ", ")),
+           "add the options that the printer has");
+  }
+
+  void note(std::string message, std::string advice) {
+    findings_.add({Severity::note, {}, 0, std::move(message), std::move(advice)});
+  }
+
+  void checkDefinitions(const std::string &key, const PpdLines::Option &lines) {
+    int count = 0;
+    session_->ppd().forEachOption(
+        [&](const ppd_option_t &option) { count += isSameKey(option.keyword, key) ? 1 : 0; });
+    if (count > 1 && lines.opened.size() > 1)
+      findings_.add(
+          {Severity::error, key, lines.line(),
+           fmt::format("it is defined again at line {}, and the panel shows one of the two",
+                       lines.opened[1]),
+           "define it once"});
+  }
+
+  /// Panels that do not appear, and the options of the PPD that nobody sees for that.
+  void checkUnshown() {
+    std::string told;  // the media panels need the same, so it is told once
+    for (const PanelRequirement &needed : classes_) {
+      if (std::count(report_.panels.begin(), report_.panels.end(), needed.className) > 0) continue;
+      const std::string keys = fmt::format("{}", fmt::join(needed.anyOf, " or "));
+      const bool isWanting =
+          std::none_of(needed.anyOf.begin(), needed.anyOf.end(),
+                       [this](const std::string &key) { return optionOf(key) != nullptr; });
+      if (const auto unshown = takeUnshown(needed); !unshown.empty())
+        tellUnshown(unshown, needed, keys);
+      else if (isWanting && keys != told)
+        note(fmt::format("{} does not appear, since the PPD has no {}", needed.className, keys),
              "add the option if the printer has it");
-        continue;
-      }
-      checkTexts(*option);
-      checkDefault(*option);
-      if (row.kind != PanelOption::Kind::choice) checkNumbers(*option, row, panel);
-      if (row.kind == PanelOption::Kind::choice) {
-        const auto [other, isNew] = titles.try_emplace(option->text, row.key);
-        if (!isNew)
-          find(Severity::error, row.key, lines_.option(row.key),
-               fmt::format("it has the same title as {}, \"{}\", so the summary shows one of them",
-                           other->second, option->text),
-               "give the two options different texts");
-      }
+      told = keys;
     }
   }
 
-  void checkText(const std::string &key, int line, const char *text, const std::string &what) {
-    const std::string_view bytes(text);
-    const auto *valid = utf8::find_invalid(text, text + bytes.size());
-    if (valid == text + bytes.size()) return;
-    if (bytes.size() == PPD_MAX_TEXT - 1 && text + bytes.size() - valid < 4)
-      find(Severity::warning, key, line,
-           fmt::format("{} is longer than {} bytes and cut in the middle of a character", what,
-                       PPD_MAX_TEXT - 1),
-           "shorten the text");
-    else
-      find(Severity::error, key, line, fmt::format("{} is not valid UTF-8", what),
-           "write the file in UTF-8 with *LanguageEncoding: UTF-8");
+  /// Returns the options of a class of panels that no panel shows; each of them only once.
+  std::vector<std::string> takeUnshown(const PanelRequirement &panelClass) {
+    std::vector<std::string> unshown;
+    for (const std::string &key : panelClass.keys)
+      if (optionOf(key) && shown_.insert(key).second) unshown.push_back(key);
+    return unshown;
   }
 
-  void checkTexts(const ppd_option_t &option) {
-    const std::string key = option.keyword;
-    checkText(key, lines_.option(key), option.text, "its text");
-    for (int i = 0; i < option.num_choices; ++i) {
-      const ppd_choice_t &choice = option.choices[i];
-      const int line = lines_.choice(key, choice.choice);
-      checkText(key, line, choice.text, fmt::format("the text of {}", choice.choice));
-      if (!isAscii(choice.choice))
-        find(Severity::error, key, line,
-             fmt::format("the keyword {} is not ASCII, so it cannot be marked", choice.choice),
-             "use letters, digits and signs of ASCII in keywords");
-    }
+  /// `keyOptions` are what brings the panel.
+  void tellUnshown(const std::vector<std::string> &unshown, const PanelRequirement &needed,
+                   const std::string &keyOptions) {
+    const std::string others =
+        unshown.size() == 1
+            ? ""
+            : fmt::format(", nor {}", fmt::join(unshown.begin() + 1, unshown.end(), ", "));
+    const bool isOtherModel = needed.model && *needed.model != model();
+    const std::string reason = isOtherModel ? fmt::format("is for model number {}", *needed.model)
+                                            : fmt::format("does not appear without {}", keyOptions);
+    findings_.add({Severity::error, unshown.front(), lines_->of(unshown.front()).line(),
+                   fmt::format("no panel shows it{}: {} {}", others, needed.className, reason),
+                   isOtherModel ? fmt::format("set *cupsModelNumber: {}", *needed.model)
+                                : fmt::format("add {}", keyOptions)});
   }
 
-  void checkDefault(ppd_option_t &option) {
-    const std::string key = option.keyword;
-    if (!ppdFindChoice(&option, option.defchoice)) {
-      find(Severity::error, key, lines_.defaultOf(key),
-           fmt::format("its default, \"{}\", is not among its choices", option.defchoice),
-           "make a listed choice the default");
-      return;
-    }
-    for (const auto &[other, choice] : session_->constraints().of(option, option.defchoice))
-      find(Severity::error, key, lines_.defaultOf(key),
-           fmt::format("its default, {}, conflicts with that of {}, {}", option.defchoice, other,
-                       choice),
-           "choose defaults that go together");
-  }
-
-  void checkNumbers(ppd_option_t &option, const PanelOption &row, const Panel &panel) {
-    const bool isInteger = row.kind == PanelOption::Kind::integer;
-    for (int i = 0; i < option.num_choices; ++i) {
-      const ppd_choice_t &choice = option.choices[i];
-      if (std::strcmp(choice.choice, host::kCustom) == 0) continue;
-      const double shown = isInteger ? leadingInteger(choice.text) : atofInCLocale(choice.text);
-      const double meant = isInteger ? leadingInteger(choice.choice) : leadingDouble(choice.choice);
-      if (shown == meant) continue;
-      find(Severity::error, row.key, lines_.choice(row.key, choice.choice),
-           fmt::format("the text of {} reads as {}, and the panel shows the text", choice.choice,
-                       shown),
-           "write the number itself as the text");
-    }
-    checkReach(option, row, panel);
-  }
-
-  /// Every number that the slider can reach has to be listed or inside the custom limits.
-  void checkReach(ppd_option_t &option, const PanelOption &row, const Panel &panel) {
-    const auto *slider = inspectorOf(panel)->control<Slider>(row.slider);
-    if (!slider) return;
-    // Real values are cut to hundredths and written with six decimals.
-    const int perUnit = row.kind == PanelOption::Kind::integer ? 1 : 100;
-    const auto first = std::lround(slider->minValue() * perUnit);
-    const auto last = std::lround(slider->maxValue() * perUnit);
-    int missing = 0;
-    std::string example;
-    for (auto n = first; n <= last; ++n) {
-      const std::string keyword = perUnit == 1
-                                      ? fmt::format("{}", n)
-                                      : fmt::format("{:.6f}", static_cast<double>(n) / perUnit);
-      if (host::findMarkable(session_->ppdFile(), option, keyword)) continue;
-      if (missing++ == 0) example = keyword;
-    }
-    if (missing > 0)
-      find(Severity::warning, row.key, lines_.option(row.key),
-           fmt::format("its slider reaches {} numbers that it does not take, {} for one", missing,
-                       example),
-           fmt::format("list them, or add *Custom{}", row.key));
+  int model() const {
+    const ppd_attr_t *number = ppdFindAttr(ppd_, "cupsModelNumber", nullptr);
+    return number && number->value ? leadingInteger(number->value) : 0;
   }
 
   PlugInModule &module_;
   host::Stream file_;
-  LineIndex lines_;
   std::shared_ptr<host::PpdSession> session_;
+  ppd_file_t *ppd_;
+  std::vector<PanelRequirement> classes_;
+  KeywordSet keys_;   // of every panel
+  KeywordSet shown_;  // those of the PPD that a panel shows
+  std::optional<PpdLines> lines_;
+  Findings findings_;
   PpdReport report_;
 };
 

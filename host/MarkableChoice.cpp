@@ -36,14 +36,6 @@ std::optional<double> wholeLength(std::string_view text) {
   return wholeNumber(text);
 }
 
-bool isWithin(const CustomLimits &limits, double number) {
-  // The library keeps limits as float, so that is how the number meets them.
-  const auto rounded = static_cast<float>(number);
-  return rounded >= static_cast<float>(limits.minimum) &&
-         rounded <= static_cast<float>(limits.maximum) &&
-         (!limits.integral || std::trunc(number) == number);
-}
-
 /// Returns the limits of a parameter that is a number; none for texts.
 std::optional<CustomLimits> limitsOf(const ppd_cparam_t &parameter) {
   const ppd_cplimit_t &minimum = parameter.minimum;
@@ -110,6 +102,14 @@ bool takesCustom(ppd_file_t *ppd, const ppd_option_t &option, std::string_view v
 }
 
 }  // namespace
+
+bool isWithin(const CustomLimits &limits, double number) {
+  // The library keeps limits as float, so that is how the number meets them.
+  const auto rounded = static_cast<float>(number);
+  return rounded >= static_cast<float>(limits.minimum) &&
+         rounded <= static_cast<float>(limits.maximum) &&
+         (!limits.integral || std::trunc(number) == number);
+}
 
 std::optional<double> wholeNumber(std::string_view text) {
   if (text.starts_with('+')) text.remove_prefix(1);

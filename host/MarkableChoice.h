@@ -36,6 +36,9 @@ struct CustomLimits {
   bool integral;
 };
 
+/// Returns whether `number` lies between them, and is whole where it has to be.
+bool isWithin(const CustomLimits &limits, double number);
+
 /// Returns the limits of `option`'s one custom parameter; none when it has none, several, or one
 /// that is no number.
 std::optional<CustomLimits> customLimits(ppd_file_t *ppd, const ppd_option_t &option);

@@ -70,12 +70,13 @@ PpdFile PpdFile::open(const std::string &path) {
 }
 
 PpdFile PpdFile::read(std::FILE *file, const std::string &name) {
-  PpdFile ppd = readUntrimmed(file, name);
+  PpdFile ppd = readAsWritten(file, name);
+  localize(*ppd.get());
   trimTexts(*ppd.get());
   return ppd;
 }
 
-PpdFile PpdFile::readUntrimmed(std::FILE *file, const std::string &name) {
+PpdFile PpdFile::readAsWritten(std::FILE *file, const std::string &name) {
   if (std::fseek(file, 0, SEEK_SET) != 0)
     throw Error(fmt::format("{}: {}", name, std::strerror(errno)));
   ppd_file_t *const ppd = ppdOpenFd(dup(fileno(file)));  // which closes what it is given
@@ -84,7 +85,6 @@ PpdFile PpdFile::readUntrimmed(std::FILE *file, const std::string &name) {
     const ppd_status_t status = ppdLastError(&line);
     throw Error(fmt::format("{}:{}: {}", name, line, ppdErrorString(status)));
   }
-  localize(*ppd);
   ppdMarkDefaults(ppd);
   return PpdFile(ppd);
 }

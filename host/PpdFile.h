@@ -22,8 +22,8 @@ public:
   /// `name`.
   static PpdFile read(std::FILE *file, const std::string &name);
 
-  /// Reads it as `read` does, with the texts as the file has them.
-  static PpdFile readUntrimmed(std::FILE *file, const std::string &name);
+  /// Reads it as `read` does, with the texts as the file has them, in its own language.
+  static PpdFile readAsWritten(std::FILE *file, const std::string &name);
 
   /// Owned by this object.
   ppd_file_t *get() const { return ppd_.get(); }

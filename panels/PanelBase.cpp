@@ -215,9 +215,10 @@ std::vector<PanelOption> PanelBase::options() const {
 }
 
 PanelRequirement PanelBase::requirement() const {
-  PanelRequirement needed{table_.traits.className, table_.traits.word, {}};
+  PanelRequirement needed{table_.traits.className, table_.traits.word, {}, {}, {}};
   for (const PopUpRow &row : table_.popUps)
     if (row.isKey) needed.anyOf.emplace_back(row.key);
+  for (const PanelOption &option : options()) needed.keys.push_back(option.key);
   return needed;
 }
 

@@ -33,8 +33,10 @@ std::span<const PanelClass> panelClasses() {
 
 std::vector<PanelRequirement> panelRequirements() {
   std::vector<PanelRequirement> requirements;
-  for (const PanelClass &panelClass : panelClasses())
+  for (const PanelClass &panelClass : panelClasses()) {
     requirements.push_back(panelClass.requirement());
+    if (panelClass.models == Models::extended) requirements.back().model = kExtendedModel;
+  }
   return requirements;
 }
 

@@ -13,6 +13,9 @@ namespace kwopde {
 /// The printers that a class of panels is for.
 enum class Models { all, extended, others };
 
+/// The model number of the printer with the extended media panel.
+inline constexpr int kExtendedModel = 7032;
+
 struct PanelClass {
   std::string_view name;
   Models models;

@@ -3,6 +3,7 @@
 // traced. A host asks for an inspector, and does without where there is none.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -87,6 +88,8 @@ struct PanelRequirement {
   std::string_view className;
   std::string_view word;           // as `PanelInspector::word`
   std::vector<std::string> anyOf;  // keywords; without all of them the panel is refused
+  std::vector<std::string> keys;   // of every option that the panel handles
+  std::optional<int> model;        // the one *cupsModelNumber that it is for; none for any other
 };
 
 /// What a module tells of the panels that it could make.

@@ -10,9 +10,6 @@ namespace kwopde {
 
 namespace {
 
-/// The printer model with the extended media panel.
-constexpr int kExtendedModel = 7032;
-
 bool isExtendedModel(const Object *self, ppd_file_t *ppd) {
   if (!ppd) {
     PDELog(self, "PPD: nil");
