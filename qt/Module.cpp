@@ -55,7 +55,7 @@ public:
 
 private:
   QtLog log_;
-  QtInterfaceLoader loader_{":/kwopde"};
+  QtInterfaceLoader loader_;
   LogSink *sinkBefore_;
   InterfaceLoader *loaderBefore_;
   std::shared_ptr<Bundle> bundle_;

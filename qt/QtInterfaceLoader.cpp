@@ -1,29 +1,28 @@
 #include "qt/QtInterfaceLoader.h"
 
 #include <QCoreApplication>
-#include <QFile>
 #include <QLabel>
-#include <QUiLoader>
 #include <QtDebug>
+#include <utility>
 
 #include "qt/NumberSlider.h"
 #include "qt/QtControls.h"
+#include "ui_ColorPDE.h"
+#include "ui_Media7032PDE.h"
+#include "ui_MediaPDE.h"
+#include "ui_SharpenPDE.h"
 
 namespace kwopde::qt {
 
 namespace {
 
-/// Makes the widgets of a file, with sliders of our own.
-class Builder final : public QUiLoader {
-public:
-  QWidget *createWidget(const QString &className, QWidget *parent, const QString &name) override {
-    if (className != QLatin1String("QSlider"))
-      return QUiLoader::createWidget(className, parent, name);
-    auto *slider = new NumberSlider(parent);
-    slider->setObjectName(name);
-    return slider;
-  }
-};
+/// Makes the widgets of an interface file; `Ui` is what uic makes of it.
+template <class Ui>
+QWidget *make() {
+  auto *const top = new QWidget;
+  Ui().setupUi(top);
+  return top;
+}
 
 void connectControl(QtPanelView &view, QWidget *widget, InterfaceOwner &owner) {
   const QString name = widget->objectName();
@@ -41,32 +40,28 @@ void connectControl(QtPanelView &view, QWidget *widget, InterfaceOwner &owner) {
 
 }  // namespace
 
-QtInterfaceLoader::QtInterfaceLoader(QString folder) : folder_(std::move(folder)) {}
+QtInterfaceLoader::Interfaces QtInterfaceLoader::ownInterfaces() {
+  return {{"MediaPDE", make<Ui::MediaPDE>},
+          {"Media7032PDE", make<Ui::Media7032PDE>},
+          {"ColorPDE", make<Ui::ColorPDE>},
+          {"SharpenPDE", make<Ui::SharpenPDE>}};
+}
+
+QtInterfaceLoader::QtInterfaceLoader(Interfaces interfaces) : interfaces_(std::move(interfaces)) {}
 
 QtInterfaceLoader::~QtInterfaceLoader() {
-  if (loader_ && QCoreApplication::instance()) NumberSlider::setAccessible(false);
+  if (isAccessible_ && QCoreApplication::instance()) NumberSlider::setAccessible(false);
 }
 
 bool QtInterfaceLoader::loadNibNamed(std::string_view name, InterfaceOwner &owner) {
-  if (!loader_) {
-    loader_ = std::make_unique<Builder>();
-    loader_->clearPluginPaths();  // the files use Qt's own widgets only
-    NumberSlider::setAccessible(true);
-  }
-  QFile file(folder_ + '/' + QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())) +
-             ".ui");
-  QWidget *const top = file.open(QIODevice::ReadOnly) ? loader_->load(&file) : nullptr;
+  if (!std::exchange(isAccessible_, true)) NumberSlider::setAccessible(true);
+  const auto interface = interfaces_.find(name);
+  QWidget *const top = interface == interfaces_.end() ? nullptr : interface->second();
   if (!top) {
-    qWarning("Interface file %s: %s", qPrintable(file.fileName()),
-             qPrintable(file.isOpen() ? loader_->errorString() : file.errorString()));
+    qWarning("There is no interface %.*s", static_cast<int>(name.size()), name.data());
     return false;
   }
   const auto view = std::make_shared<QtPanelView>(top);
-  if (top->objectName() != QLatin1String("pdeView")) {
-    qWarning("Interface file %s: the top-level widget is not named pdeView",
-             qPrintable(file.fileName()));
-    return false;
-  }
   for (QLabel *label : top->findChildren<QLabel *>()) {
     label->setTextFormat(Qt::PlainText);
     // Where a caption starts does not depend on its language.

@@ -3,7 +3,7 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QLabel>
-#include <QTemporaryDir>
+#include <QPushButton>
 #include <QTest>
 
 #include "platform/Numbers.h"
@@ -199,43 +199,39 @@ TEST(QtControls, OfWidgetsThatAreGoneDoNothing) {
   EXPECT_EQ(popUp.className(), "QComboBox");
 }
 
-/// A panel whose interface file is `ui`.
-struct PanelWithFile : PanelOn<MediaPDE> {
-  explicit PanelWithFile(const QByteArray &ui) : PanelOn(kMediaOptions), files2(folder.path()) {
-    QFile file(folder.filePath("MediaPDE.ui"));
-    if (file.open(QIODevice::WriteOnly)) file.write(ui);
-  }
-  QTemporaryDir folder;
+/// A panel whose interface is what `make` makes.
+struct PanelWithInterface : PanelOn<MediaPDE> {
+  explicit PanelWithInterface(const std::function<QWidget *()> &make)
+      : PanelOn(kMediaOptions), files2({{"MediaPDE", make}}) {}
   InterfaceFiles files2;
 };
 
-QByteArray ui(const QByteArray &name, const QByteArray &children) {
-  return "<ui version=\"4.0\"><class>MediaPDE</class><widget class=\"QWidget\" name=\"" + name +
-         "\">" + children + "</widget></ui>";
+/// Adds a widget to `top`, as an interface file has it.
+template <class Widget>
+void add(QWidget *top, const char *name, const char *action = nullptr) {
+  auto *widget = new Widget(top);
+  widget->setObjectName(name);
+  widget->setProperty("action", action);
 }
 
-TEST(QtInterfaceLoader, BrokenFilesGiveNoView) {
-  for (const QByteArray &broken :
-       {QByteArray(), QByteArray("nonsense"), ui("pdeView", "<oops"), ui("somethingElse", "")}) {
-    PanelWithFile on(broken);
-    EXPECT_EQ(on.panel->panelView(), nullptr) << broken.toStdString();
-    on.panel->willShow();
-    EXPECT_TRUE(on.panel->shouldHide());
-    EXPECT_EQ(on.panel->pageScaleValue, 0);
-  }
+TEST(QtInterfaceLoader, WithoutAnInterfaceThereIsNoView) {
+  PanelWithInterface on([] { return nullptr; });
+  EXPECT_EQ(on.panel->panelView(), nullptr);
+  on.panel->willShow();
+  EXPECT_TRUE(on.panel->shouldHide());
+  EXPECT_EQ(on.panel->pageScaleValue, 0);
+  EXPECT_FALSE(Bundle::loadNibNamed("Another", *on.panel));
 }
 
 TEST(QtInterfaceLoader, WrongControlsAndActionsStayUnconnected) {
-  const QByteArray action =
-      "<property name=\"action\" stdset=\"0\"><string>none:</string></property>";
-  PanelWithFile on(ui("pdeView",
-                      "<widget class=\"QLineEdit\" name=\"printQualityPopUp\"/>"
-                      "<widget class=\"QComboBox\" name=\"printFinishPopUp\">" +
-                          action +
-                          "</widget>"
-                          "<widget class=\"QComboBox\" name=\"unknownPopUp\"/>"
-                          "<widget class=\"QPushButton\" name=\"button\">" +
-                          action + "</widget>"));
+  PanelWithInterface on([] {
+    auto *top = new QWidget;
+    add<QLineEdit>(top, "printQualityPopUp");
+    add<QComboBox>(top, "printFinishPopUp", "none:");
+    add<QComboBox>(top, "unknownPopUp");
+    add<QPushButton>(top, "button", "none:");
+    return top;
+  });
   on.shown();
   EXPECT_FALSE(on.panel->printQualityPopUp);
   EXPECT_TRUE(on.panel->printFinishPopUp);

@@ -32,8 +32,9 @@ public:
 /// The widgets of the interface files as long as it lives.
 class InterfaceFiles {
 public:
-  explicit InterfaceFiles(const QString &folder = KWOPDE_SOURCE_FOLDER "/resources/qt")
-      : loader_(folder), before_(Bundle::setInterfaceLoader(&loader_)) {}
+  explicit InterfaceFiles(
+      const qt::QtInterfaceLoader::Interfaces &interfaces = qt::QtInterfaceLoader::ownInterfaces())
+      : loader_(interfaces), before_(Bundle::setInterfaceLoader(&loader_)) {}
   InterfaceFiles(const InterfaceFiles &) = delete;
   InterfaceFiles &operator=(const InterfaceFiles &) = delete;
   ~InterfaceFiles() { Bundle::setInterfaceLoader(before_); }
