@@ -4,6 +4,7 @@
 #include <QLineEdit>
 #include <QShowEvent>
 #include <algorithm>
+#include <optional>
 
 #include "dialog/OptionRow.h"
 #include "dialog/SummaryPage.h"
@@ -12,6 +13,15 @@
 namespace kwopde::dialog {
 
 namespace {
+
+/// The switch of the sharpen panel's numbers.
+constexpr const char *kFilter = "sharpnessEnabled";
+
+/// Returns whether the keyword `choice` stands for nothing, as constraints have it too.
+bool isOff(const std::optional<std::string> &choice) {
+  const QString text = QString::fromStdString(choice.value_or("")).toLower();
+  return text == "off" || text == "none" || text == "false";
+}
 
 QString titleOf(Panel &panel) {
   const std::string *name = panel.panelName();
@@ -68,17 +78,25 @@ void PanelPage::showEvent(QShowEvent *event) {
 }
 
 void PanelPage::showContent(QWidget *panelView) {
-  QStringList missing;
   for (const PanelOption &option : optionsOf(panel_)) {
     auto *row = new OptionRow(panel_, option, session_, this);
     rows_.append(row);
     connect(row, &OptionRow::edited, this, &PanelPage::showDifferences);
     connect(row, &OptionRow::finished, this, &PanelPage::settle);
-    if (!row->isAvailable() && !row->number().isEmpty()) missing.append(row->number());
   }
   setContent(panelView);
+}
+
+QString PanelPage::remark() const {
+  QStringList sentences;
+  QStringList missing;
+  for (const OptionRow *row : rows_)
+    if (!row->isAvailable() && !row->number().isEmpty()) missing.append(row->number());
   if (!missing.isEmpty())
-    setRemark(tr("This printer does not adjust: %1.").arg(missing.join(", ")));
+    sentences.append(tr("This printer does not adjust: %1.").arg(missing.join(", ")));
+  if (keys().contains(kFilter) && isOff(session_.markedChoice(kFilter)))
+    sentences.append(tr("The numbers have no effect while the filter is off."));
+  return sentences.join(' ');
 }
 
 void PanelPage::settle() {
@@ -90,6 +108,7 @@ void PanelPage::settle() {
 
 void PanelPage::showDifferences() {
   for (OptionRow *row : rows_) row->showDifference();
+  setRemark(remark());
   setDifferences(static_cast<int>(std::count_if(
       rows_.begin(), rows_.end(), [](const OptionRow *row) { return row->differs(); })));
 }

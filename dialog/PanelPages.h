@@ -49,6 +49,9 @@ protected:
 private:
   QWidget *view();
   void showContent(QWidget *panelView);
+
+  /// Returns what a person has to know about the controls; empty when they all do what they say.
+  QString remark() const;
   void settle();
 
   Panel &panel_;

@@ -94,6 +94,10 @@
         <source>This printer does not adjust: %1.</source>
         <translation>Dieser Drucker stellt nicht ein: %1.</translation>
     </message>
+    <message>
+        <source>The numbers have no effect while the filter is off.</source>
+        <translation>Die Zahlen wirken nicht, solange der Filter aus ist.</translation>
+    </message>
 </context>
 <context>
     <name>kwopde::dialog::PpdDialog</name>

@@ -360,6 +360,15 @@ TEST_F(Dialog, ShowsThePanelsOfAnyPrinter) {
   none.accept();
 }
 
+TEST_F(Dialog, SaysThatNumbersOfAFilterThatIsOffHaveNoEffect) {
+  open("kwo-7032.ppd");
+  tabs_->setCurrentIndex(2);
+  const auto *remark = tabs_->currentWidget()->findChild<QLabel *>("remark");
+  EXPECT_EQ(remark->text(), "The numbers have no effect while the filter is off.");
+  QTest::keyClick(&widget<QComboBox>("enableFilterPopUp"), Qt::Key_Down);
+  EXPECT_EQ(remark->text(), QString());
+}
+
 TEST(ModuleLoader, SaysWhichFileIsRefusedAndWhy) {
   const struct {
     std::string file;
