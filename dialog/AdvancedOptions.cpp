@@ -24,8 +24,8 @@ QComboBox *AdvancedOptions::find(const QString &title) const {
   if (!properties_) return nullptr;
   for (const auto *form : properties_->findChildren<QFormLayout *>())
     for (int row = 0; row < form->rowCount(); ++row) {
-      const auto *caption = form->itemAt(row, QFormLayout::LabelRole);
-      const auto *field = form->itemAt(row, QFormLayout::FieldRole);
+      auto *caption = form->itemAt(row, QFormLayout::LabelRole);
+      auto *field = form->itemAt(row, QFormLayout::FieldRole);
       const auto *label = caption ? qobject_cast<QLabel *>(caption->widget()) : nullptr;
       if (!label || !field || !field->widget()) continue;
       if (label->text() == title || label->text() == title + ':')

@@ -55,7 +55,7 @@ QWidget *PresetRow::makeWidget() {
       static_cast<int>(std::find(names_.begin(), names_.end(), current_) - names_.begin()));
   names->setAccessibleName(tr("Preset"));
   caption->setBuddy(names);
-  connect(names, &QComboBox::activated, this, &PresetRow::choose);
+  connect(names, qOverload<int>(&QComboBox::activated), this, &PresetRow::choose);
   auto *more = new QToolButton;
   more->setObjectName("presetMenu");
   more->setText("…");

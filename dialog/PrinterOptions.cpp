@@ -2,8 +2,6 @@
 
 #include <QComboBox>
 #include <QDialog>
-#include <QLineEdit>
-#include <QPageRanges>
 #include <QPageSize>
 #include <QPrintEngine>
 #include <QRadioButton>
@@ -55,13 +53,6 @@ bool hasShownProperties(const QPrintDialog &dialog) {
   });
 }
 
-QPageRanges shownPages(const QPrintDialog &dialog) {
-  const auto *pages = dialog.findChild<QRadioButton *>("pagesRadioButton");
-  const auto *list = dialog.findChild<QLineEdit *>("pagesLineEdit");
-  return pages && list && pages->isChecked() ? QPageRanges::fromString(list->text())
-                                             : dialog.printer()->pageRanges();
-}
-
 void setPrinterOptions(const QPrintDialog &dialog, host::JobOptions &job) {
   const QPrinter &printer = *dialog.printer();
   const auto setAll = [&](const auto &neutral, bool isSeen) {
@@ -81,8 +72,6 @@ void setPrinterOptions(const QPrintDialog &dialog, host::JobOptions &job) {
   if (seen && printer.pageLayout().orientation() == QPageLayout::Landscape)
     job.set("landscape", "true");
   if (printer.pageOrder() == QPrinter::LastPageFirst) job.set("outputorder", "reverse");
-  if (const QPageRanges pages = shownPages(dialog); !pages.isEmpty())
-    job.set("page-ranges", pages.toString().toStdString());
   for (const auto &[key, choice] : cupsOptions(printer))
     if (!choice.empty() && (seen || key == "page-set")) job.set(key, choice);
 }
@@ -97,8 +86,7 @@ void setShownOptions(const QPrintDialog &dialog, host::JobOptions &job) {
 
 std::optional<std::string> shownPaper(const QPrintDialog &dialog) {
   const auto *papers = dialog.findChild<QComboBox *>("pageSizeCombo");
-  // Accepting makes them too, for nobody to see.
-  if (!papers || !papers->window()->testAttribute(Qt::WA_WState_Polished)) return {};
+  if (!papers || !hasShownProperties(dialog)) return {};  // accepting makes them for nobody to see
   if (!papers->currentData().canConvert<QPageSize>()) return {};
   return papers->currentData().value<QPageSize>().key().toStdString();
 }

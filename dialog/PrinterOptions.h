@@ -1,7 +1,6 @@
 // What the tabs of Qt's own print dialog have set on a QPrinter, by CUPS's names.
 #pragma once
 
-#include <QPageRanges>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <optional>
@@ -14,7 +13,7 @@
 namespace kwopde::dialog {
 
 /// Lets `job` carry what `dialog`, once accepted, has set on its printer in place of what is saved:
-/// sides, copies, order and pages, and from its Properties paper size, orientation, pages per sheet
+/// sides, copies and order, and from its Properties paper size, orientation, pages per sheet
 /// and the rest, named as Qt's print engine names them. What the dialog shows as nothing chosen
 /// replaces a saved choice too. Properties that nobody has opened have shown nothing, and what is
 /// saved stands.
@@ -27,10 +26,6 @@ void setShownOptions(const QPrintDialog &dialog, host::JobOptions &job);
 /// Returns the paper that the Properties of `dialog` show, by the PPD's name; none when nobody has
 /// opened them.
 std::optional<std::string> shownPaper(const QPrintDialog &dialog);
-
-/// Returns the pages that `dialog` shows as chosen, which not every Qt hands to the printer; empty
-/// for all.
-QPageRanges shownPages(const QPrintDialog &dialog);
 
 /// Returns the choice of the PPD option Duplex that is set on `printer`.
 std::string duplexChoice(const QPrinter &printer);

@@ -1,10 +1,13 @@
 #include "dialog/QueueDialog.h"
 
 #include <QCoreApplication>
+#include <QLineEdit>
 #include <QMessageBox>
+#include <QPageRanges>
 #include <QPrinter>
 #include <QProgressDialog>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QScopedValueRollback>
 
 #include "dialog/PrinterOptions.h"
@@ -17,6 +20,15 @@ namespace {
 
 /// Milliseconds of sending before a progress bar is worth showing.
 constexpr int kPatience = 500;
+
+/// Returns the pages that `dialog` shows as chosen, which not every Qt hands to the printer; empty
+/// for all.
+QPageRanges shownPages(const QPrintDialog &dialog) {
+  const auto *pages = dialog.findChild<QRadioButton *>("pagesRadioButton");
+  const auto *list = dialog.findChild<QLineEdit *>("pagesLineEdit");
+  return pages && list && pages->isChecked() ? QPageRanges::fromString(list->text())
+                                             : dialog.printer()->pageRanges();
+}
 
 }  // namespace
 
@@ -33,10 +45,17 @@ QueueDialog::QueueDialog(PlugInModule &module, QPrinter &printer,
   expandOptions(*this);  // the panels are what this dialog is for
 }
 
+host::JobOptions QueueDialog::jobOptions() const {
+  host::JobOptions options = panels_.jobOptions();
+  if (const QPageRanges pages = shownPages(*this); !pages.isEmpty())
+    options.set("page-ranges", pages.toString().toStdString());
+  return options;
+}
+
 host::PrintJob QueueDialog::job() const {
   const std::string printerName = printer()->printerName().toStdString();
   host::PrintJob job{
-      printerName.substr(0, printerName.find('/')), {}, documents_, panels_.jobOptions().all()};
+      printerName.substr(0, printerName.find('/')), {}, documents_, jobOptions().all()};
   if (!documents_.empty()) job.title = host::documentName(documents_.front());
   return job;
 }

@@ -40,9 +40,10 @@ public:
   void done(int result) override;
 
   /// Returns what the job carries that is worth telling a person.
-  std::vector<host::OptionChoice> chosenOptions() const { return panels_.jobOptions().chosen(); }
+  std::vector<host::OptionChoice> chosenOptions() const { return jobOptions().chosen(); }
 
 private:
+  host::JobOptions jobOptions() const;
   bool isAllRight();
 
   /// `failed`: not sent, or cancelled, and the dialog stays; `ended`: a signal ended it.

@@ -21,7 +21,7 @@ void install(const QString &name, const QString &folder) {
 }  // namespace
 
 void installTranslations() {
-  install("qtbase", QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+  install("qtbase", QLibraryInfo::location(QLibraryInfo::TranslationsPath));
   install("kwopde-host", ":/kwopde-host");
 }
 

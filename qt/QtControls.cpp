@@ -130,7 +130,8 @@ std::shared_ptr<View> QtPanelView::control(QWidget *widget) {
 bool connectAction(QWidget *widget, std::function<void()> action) {
   // Signals that only a user's doing sends.
   if (auto *comboBox = qobject_cast<QComboBox *>(widget))
-    return QObject::connect(comboBox, &QComboBox::activated, comboBox, std::move(action));
+    return QObject::connect(comboBox, qOverload<int>(&QComboBox::activated), comboBox,
+                            std::move(action));
   if (auto *slider = qobject_cast<QSlider *>(widget))
     return QObject::connect(slider, &QSlider::actionTriggered, slider, std::move(action));
   return false;
