@@ -11,6 +11,6 @@ function(add_translations target prefix)
     add_custom_command(OUTPUT ${qm} COMMAND ${KWOPDE_LRELEASE} -silent ${file} -qm ${qm} DEPENDS ${file})
     list(APPEND compiled ${qm})
   endforeach()
-  qt_add_resources(${target} translations PREFIX ${prefix} BASE ${CMAKE_CURRENT_BINARY_DIR}
+  qt6_add_resources(${target} translations PREFIX ${prefix} BASE ${CMAKE_CURRENT_BINARY_DIR}
                    FILES ${compiled})
 endfunction()

@@ -15,7 +15,10 @@ namespace kwopde::dialog {
 
 namespace {
 
-constexpr const char *kFileName = "/kwopde-qt.so";
+#ifndef KWOPDE_MODULE_FILE
+#define KWOPDE_MODULE_FILE "/kwopde-qt.so"
+#define KWOPDE_MODULE_FOLDER "/kwopde"  // from the folder of the library that this is part of
+#endif
 
 /// The folder of the program or library that this code is in.
 QString ownFolder() {
@@ -27,8 +30,8 @@ QString ownFolder() {
 
 QString usualModule() {
   if (QString named = qEnvironmentVariable("KWOPDE_MODULE"); !named.isEmpty()) return named;
-  const QString beside = QCoreApplication::applicationDirPath() + kFileName;
-  return QFile::exists(beside) ? beside : ownFolder() + "/kwopde" + kFileName;
+  const QString beside = QCoreApplication::applicationDirPath() + KWOPDE_MODULE_FILE;
+  return QFile::exists(beside) ? beside : ownFolder() + KWOPDE_MODULE_FOLDER KWOPDE_MODULE_FILE;
 }
 
 }  // namespace
