@@ -77,6 +77,7 @@ void add(CLI::App &commandLine, const Command &command) {
 void expectCommand(int argc, char **argv, const std::vector<Command> &commands) {
   if (argc > 1 && argv[1][0] == '-') return;
   std::vector<std::string_view> names;
+  names.reserve(commands.size());
   for (const Command &command : commands) names.emplace_back(command.name);
   if (std::none_of(commands.begin(), commands.end(),
                    [&](const Command &command) { return command.name == argv[1]; }))

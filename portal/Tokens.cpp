@@ -23,7 +23,7 @@ std::optional<QJsonObject> Tokens::take(quint32 token, const QString &appId) {
   dropOld();
   const auto entry = entries_.find(token);
   if (entry == entries_.end() || entry->second.appId != appId) return {};
-  const QJsonObject job = entry->second.job;
+  QJsonObject job = entry->second.job;
   entries_.erase(entry);
   return job;
 }
