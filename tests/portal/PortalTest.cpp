@@ -210,6 +210,7 @@ TEST_F(Portal, LosesOneDialogToACrashAndServesFourAtOnce) {
   EXPECT_EQ(wait(prepare(handle())).response, 2U);
   start("print");
   std::vector<QDBusPendingCall> calls;
+  calls.reserve(4);
   for (int i = 0; i < 4; ++i) calls.push_back(prepare(handle()));
   std::set<quint32> tokens;
   for (const QDBusPendingCall &call : calls) tokens.insert(wait(call).results["token"].toUInt());
