@@ -78,11 +78,13 @@ void expectCommand(int argc, char **argv, const std::vector<Command> &commands) 
   if (argc > 1 && argv[1][0] == '-') return;
   std::vector<std::string_view> names;
   names.reserve(commands.size());
-  for (const Command &command : commands) names.emplace_back(command.name);
+  for (const Command &command : commands)
+    if (!command.description.empty()) names.emplace_back(command.name);
+  if (argc < 2) throw host::Error(fmt::format("name a command: {}", fmt::join(names, ", ")));
   if (std::none_of(commands.begin(), commands.end(),
                    [&](const Command &command) { return command.name == argv[1]; }))
     throw host::Error(
-        fmt::format("there is no command {}: it is one of {}", argv[1], fmt::join(names, ", ")));
+        fmt::format("there is no command {}: name one of {}", argv[1], fmt::join(names, ", ")));
 }
 
 int parseAndRun(int argc, char **argv, const std::vector<Command> &commands) {
