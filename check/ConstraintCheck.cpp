@@ -18,20 +18,13 @@ constexpr ChoiceFault kNeverGranted{
     Severity::error, "", " can never be picked, since it conflicts with every choice of {}",
     "leave a choice that it goes with"};
 
-/// Choices that choose nothing: a constraint that names no choice is about all the others.
-constexpr std::string_view kNothing[] = {"None", "Off", "False"};
-
-bool choosesSomething(std::string_view choice) {
-  return std::none_of(std::begin(kNothing), std::end(kNothing),
-                      [&](std::string_view nothing) { return isSameKey(choice, nothing); });
-}
-
 /// Whether all of `choices` are among `blocked`, where "" is any that chooses something.
 bool areAllAmong(const KeywordSet &choices, const KeywordSet &blocked) {
   if (blocked.contains(""))
-    return std::none_of(std::begin(kNothing), std::end(kNothing), [&](std::string_view nothing) {
-      return choices.contains(nothing) && !blocked.contains(nothing);
-    });
+    return std::none_of(std::begin(host::kNothing), std::end(host::kNothing),
+                        [&](std::string_view nothing) {
+                          return choices.contains(nothing) && !blocked.contains(nothing);
+                        });
   return choices.size() <= blocked.size() &&
          std::all_of(choices.begin(), choices.end(),
                      [&](const std::string &choice) { return blocked.contains(choice); });
@@ -79,12 +72,12 @@ bool ConstraintCheck::isOfOne(const ConstraintLine &constraint) {
 }
 
 bool ConstraintCheck::holdsByDefault(const ConstraintLine &constraint) {
-  return std::all_of(constraint.members.begin(), constraint.members.end(),
-                     [this](const auto &member) {
-                       const std::string &marked = named(member.key)->byDefault;
-                       return member.choice.empty() ? !marked.empty() && choosesSomething(marked)
-                                                    : isSameKey(marked, member.choice);
-                     });
+  return std::all_of(
+      constraint.members.begin(), constraint.members.end(), [this](const auto &member) {
+        const std::string &marked = named(member.key)->byDefault;
+        return member.choice.empty() ? !marked.empty() && !host::choosesNothing(marked)
+                                     : isSameKey(marked, member.choice);
+      });
 }
 
 void ConstraintCheck::takeConflict(const ConstraintLine &constraint) {
@@ -143,7 +136,7 @@ void ConstraintCheck::reportBlocked(const PpdLines &lines, Findings &findings) {
     const Partners leftByAny = leftBy(byAny);
     const Named *blocksAny = blocking(byAny, nothing);
     for (const std::string &choice : named(key)->choices) {
-      const bool isAny = choosesSomething(choice);
+      const bool isAny = !host::choosesNothing(choice);
       const Named *blocks = isAny ? blocksAny : nullptr;
       if (const auto own = byChoice.find(choice); !blocks && own != byChoice.end())
         blocks = blocking(own->second, isAny ? leftByAny : nothing);

@@ -4,7 +4,6 @@
 #include <QLineEdit>
 #include <QShowEvent>
 #include <algorithm>
-#include <optional>
 
 #include "dialog/OptionRow.h"
 #include "dialog/SummaryPage.h"
@@ -16,12 +15,6 @@ namespace {
 
 /// The switch of the sharpen panel's numbers.
 constexpr const char *kFilter = "sharpnessEnabled";
-
-/// Returns whether the keyword `choice` stands for nothing, as constraints have it too.
-bool isOff(const std::optional<std::string> &choice) {
-  const QString text = QString::fromStdString(choice.value_or("")).toLower();
-  return text == "off" || text == "none" || text == "false";
-}
 
 QString titleOf(Panel &panel) {
   const std::string *name = panel.panelName();
@@ -94,7 +87,7 @@ QString PanelPage::remark() const {
     if (!row->isAvailable() && !row->number().isEmpty()) missing.append(row->number());
   if (!missing.isEmpty())
     sentences.append(tr("This printer does not adjust: %1.").arg(missing.join(", ")));
-  if (keys().contains(kFilter) && isOff(session_.markedChoice(kFilter)))
+  if (keys().contains(kFilter) && host::choosesNothing(session_.markedChoice(kFilter).value_or("")))
     sentences.append(tr("The numbers have no effect while the filter is off."));
   return sentences.join(' ');
 }

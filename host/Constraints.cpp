@@ -90,8 +90,7 @@ std::vector<OptionChoice> Constraints::of(const ppd_option_t &option,
   for (const bool isNamed : {false, true})
     for (int i = 0; !conflicts.empty() && i < option.num_choices; ++i) {
       const std::string other = inLowerCase(option.choices[i].choice);
-      const bool standsForNone = other == "none" || other == "off" || other == "false";
-      if ((standsForNone || named.choices.contains(other)) != isNamed) continue;
+      if ((choosesNothing(other) || named.choices.contains(other)) != isNamed) continue;
       if (!isNamed && std::exchange(asked, true)) break;
       const auto others = conflictsWith(ppd_, option, option.choices[i].choice);
       const auto ended = std::stable_partition(

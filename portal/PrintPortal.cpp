@@ -52,12 +52,10 @@ PrintPortal::PrintPortal(QObject *parent) : QDBusAbstractAdaptor(parent) {
 quint32 PrintPortal::PreparePrint(const QDBusObjectPath &, const QString &appId,
                                   const QString &parent, const QString &title,
                                   const QVariantMap &settings, const QVariantMap &pageSetup,
-                                  const QVariantMap &options, const QDBusMessage &message,
-                                  QVariantMap &) {
+                                  const QVariantMap &, const QDBusMessage &message, QVariantMap &) {
   Request *const request = begin(message);
   const QJsonObject question{{"title", withoutMnemonic(title)},
                              {"parent", parent},
-                             {"acceptLabel", options["accept_label"].toString()},
                              {"settings", QJsonObject::fromVariantMap(settings)},
                              {"pageSetup", QJsonObject::fromVariantMap(pageSetup)}};
   const QString name = settings["output-basename"].toString();

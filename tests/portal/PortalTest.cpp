@@ -41,12 +41,6 @@ QVariantMap mapOf(const QVariant &value) {
   return qdbus_cast<QVariantMap>(value);
 }
 
-int jobCount() {
-  int job = 0;
-  while (attributesOf(job + 1).count("job-id") > 0) ++job;
-  return job;
-}
-
 class Portal : public testing::Test {
 protected:
   void SetUp() override { start("print"); }
@@ -152,7 +146,7 @@ TEST_F(Portal, PrintsWhatWasSetInItsDialog) {
   EXPECT_NE(token, 0U);
 
   ASSERT_EQ(print(document(), token).response, 0U);
-  auto job = attributesOf(jobCount());
+  auto job = attributesOf(lastJob());
   EXPECT_EQ(job["job-name"], "letter");
   EXPECT_EQ(job["pageScale"], "85");
   EXPECT_EQ(job["copies"], "2");
@@ -177,14 +171,14 @@ TEST_F(Portal, ReadsSlowPipesWithoutMakingOthersWait) {
 TEST_F(Portal, TakesATokenOnceAndFromItsOwnApplication) {
   const quint32 token = wait(prepare(handle())).results["token"].toUInt();
   start("cancel");  // a service that does not know the token any more
-  const int before = jobCount();
+  const int before = lastJob();
   EXPECT_EQ(print(document(), token).response, 1U);
-  EXPECT_EQ(jobCount(), before);
+  EXPECT_EQ(lastJob(), before);
   start("print");
   const quint32 other = wait(prepare(handle())).results["token"].toUInt();
   // With a dialog first, all the same.
   EXPECT_EQ(print(document(), other, "another").response, 0U);
-  EXPECT_EQ(attributesOf(jobCount())["pageScale"], "85");
+  EXPECT_EQ(attributesOf(lastJob())["pageScale"], "85");
 }
 
 TEST_F(Portal, ClosesItsDialogWithTheApplication) {

@@ -22,12 +22,6 @@ QStringList run(const QString &application, const QString &way, const QString &s
   return QString::fromUtf8(process.readAllStandardOutput()).split('\n');
 }
 
-int lastJob() {
-  int job = 0;
-  while (attributesOf(job + 1).count("job-id") > 0) ++job;
-  return job;
-}
-
 TEST(PrintSupport, AttachesThePanelsToEveryDialogOfAnApplication) {
   for (const QString &application : QString(KWOPDE_BARE_APPLICATIONS).split(':'))
     for (const char *way : {"open", "exec", "show", "subclass"}) {

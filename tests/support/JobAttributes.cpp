@@ -23,4 +23,10 @@ std::map<std::string, std::string> attributesOf(int job) {
   return attributes;
 }
 
+int lastJob() {
+  int job = 0;
+  while (attributesOf(job + 1).count("job-id") > 0) ++job;
+  return job;
+}
+
 }  // namespace kwopde::test

@@ -9,4 +9,7 @@ namespace kwopde::test {
 /// Returns the attributes of the job, by name; none when the server has no such job.
 std::map<std::string, std::string> attributesOf(int job);
 
+/// Returns the number of the newest job; 0 when there was none.
+int lastJob();
+
 }  // namespace kwopde::test
