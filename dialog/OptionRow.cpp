@@ -3,8 +3,10 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListView>
 #include <QLocale>
 #include <QSlider>
+#include <QStandardItemModel>
 #include <algorithm>
 #include <cmath>
 #include <vector>
@@ -145,10 +147,25 @@ bool OptionRow::differs() const {
 
 std::optional<double> OptionRow::defaultNumber() const {
   const auto choice = session_.defaultChoice(option_.key);
-  return choice ? host::wholeNumber(host::customValue(*choice).value_or(*choice)) : std::nullopt;
+  return choice ? host::choiceNumber(*choice) : std::nullopt;
 }
 
-void OptionRow::showDifference() {
+void OptionRow::withholdCustom() {
+  const ppd_option_t *option = ppdFindOption(session_.ppd().get(), option_.key.c_str());
+  auto *model = menu_ ? qobject_cast<QStandardItemModel *>(menu_->model()) : nullptr;
+  auto *list = menu_ ? qobject_cast<QListView *>(menu_->view()) : nullptr;
+  if (!option || !model || !list || !ppdFindCustomOption(session_.ppd().get(), option->keyword))
+    return;
+  // The panel fills its menu anew, in the PPD's order.
+  for (int i = 0; i < std::min(option->num_choices, model->rowCount()); ++i) {
+    const bool isCustom = std::string_view(option->choices[i].choice) == host::kCustom;
+    list->setRowHidden(i, isCustom);
+    model->item(i)->setEnabled(!isCustom);
+  }
+}
+
+void OptionRow::refresh() {
+  withholdCustom();
   if (!caption_) return;
   QFont font;
   if (differs()) font.setBold(true);

@@ -19,8 +19,8 @@ class QWidget;
 namespace kwopde::dialog {
 
 /// Gives a number's field arrows, its slider the range of the numbers that the printer takes, and
-/// both a tool tip that tells it; a menu that the printer lacks says so. The caption is bold while
-/// what is shown is not the printer's default.
+/// both a tool tip that tells it; a menu that the printer lacks says so, and none offers a custom
+/// value without its number. The caption is bold while what is shown is not the printer's default.
 class OptionRow final : public QObject {
   Q_OBJECT
 
@@ -41,8 +41,8 @@ public:
   /// Returns whether what is shown, if only typed so far, is other than the printer's default.
   bool differs() const;
 
-  /// Lets the caption tell whether it does.
-  void showDifference();
+  /// Lets the row show what is marked now, and the caption whether that differs.
+  void refresh();
 
 signals:
   /// A person has typed, stepped or slid: what is shown is not marked yet.
@@ -57,6 +57,7 @@ private:
   void prepareMenu();
   void prepareNumber();
   void prepareCaption();
+  void withholdCustom();
   std::optional<double> defaultNumber() const;
 
   const Panel &panel_;

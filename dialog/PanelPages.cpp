@@ -100,7 +100,7 @@ void PanelPage::settle() {
 }
 
 void PanelPage::showDifferences() {
-  for (OptionRow *row : rows_) row->showDifference();
+  for (OptionRow *row : rows_) row->refresh();
   setRemark(remark());
   setDifferences(static_cast<int>(std::count_if(
       rows_.begin(), rows_.end(), [](const OptionRow *row) { return row->differs(); })));

@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "dialog/PlainText.h"
+#include "platform/Numbers.h"
 #include "platform/PanelInspector.h"
 
 namespace kwopde::dialog {
@@ -105,7 +106,12 @@ std::vector<SummaryPage::Section> SummaryPage::sections() const {
       const bool differs = byDefault && session_.markedChoice(key) != byDefault;
       // The panel speaks no language here.
       QString shown = QString::fromStdString(value);
-      if (option.kind != PanelOption::Kind::choice) shown.replace('.', QLocale().decimalPoint());
+      if (option.kind != PanelOption::Kind::choice) {
+        shown.replace('.', QLocale().decimalPoint());
+        // A panel tells of a number that was refused, too.
+        if (const auto kept = numberMarked(key); kept && kept != leadingDouble(value))
+          shown = tr("%1 (the job would print %2)").arg(shown, QLocale().toString(*kept, 'g', 10));
+      }
       (differs ? changed : section)
           .entries.push_back(
               {key.empty() ? title : session_.ppd().textOf(key), shown.toStdString(), differs});
@@ -114,6 +120,11 @@ std::vector<SummaryPage::Section> SummaryPage::sections() const {
   }
   sections.insert(sections.begin(), std::move(changed));
   return sections;
+}
+
+std::optional<double> SummaryPage::numberMarked(const std::string &key) const {
+  const auto marked = session_.markedChoice(key);
+  return marked ? host::choiceNumber(*marked) : std::nullopt;
 }
 
 QWidget *SummaryPage::table() const {

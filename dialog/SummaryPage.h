@@ -1,6 +1,7 @@
 // What the panels are set to, at a glance.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -10,7 +11,8 @@
 
 namespace kwopde::dialog {
 
-/// Begins with what differs from the printer's defaults. Asks the panels anew whenever it is
+/// Begins with what differs from the printer's defaults, and tells where a job would carry another
+/// number than the panel shows. Asks the panels anew whenever it is
 /// opened.
 class SummaryPage final : public Page {
   Q_OBJECT
@@ -40,6 +42,7 @@ private:
   };
 
   std::vector<Section> sections() const;
+  std::optional<double> numberMarked(const std::string &key) const;
   QWidget *table() const;
 
   const PanelList &panels_;

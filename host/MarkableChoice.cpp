@@ -126,6 +126,10 @@ std::optional<std::string_view> customValue(std::string_view keyword) {
   return keyword.substr(kCustomPrefix.size());
 }
 
+std::optional<double> choiceNumber(std::string_view keyword) {
+  return wholeNumber(customValue(keyword).value_or(keyword));
+}
+
 std::string MarkableChoice::keyword() const {
   if (custom.empty()) return choice->choice;
   return custom.starts_with('{') ? custom : fmt::format("{}{}", kCustomPrefix, custom);

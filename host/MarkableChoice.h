@@ -20,6 +20,10 @@ inline constexpr const char *kCustom = "Custom";
 /// not of a custom value.
 std::optional<std::string_view> customValue(std::string_view keyword);
 
+/// Returns the number of a choice's keyword, "85" or "Custom.85"; none when it is of something
+/// else.
+std::optional<double> choiceNumber(std::string_view keyword);
+
 /// What to mark for a request.
 struct MarkableChoice {
   ppd_choice_t *choice;  // the PPD's

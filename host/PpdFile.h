@@ -32,7 +32,8 @@ public:
   std::string nickname() const;
 
   /// Returns the text for people of an option, or of one of its choices; the keyword when it has
-  /// none, or the PPD does not have it.
+  /// none, or the PPD does not have it. A custom value is its own text; a password shows nothing of
+  /// itself.
   std::string textOf(const std::string &key) const;
   std::string textOf(const std::string &key, const std::string &choice) const;
 

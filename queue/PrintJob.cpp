@@ -90,13 +90,19 @@ public:
     return true;
   }
 
+  /// What is left of a cancelled job: its record, for whoever looks into what went wrong, or
+  /// nothing.
+  enum class Leave { record, nothing };
+
   /// Cancels the job on the server, unless it is done. Returns whether it was cancelled.
-  bool cancel() {
+  bool cancel(Leave leave) {
     const auto end = std::chrono::steady_clock::now() + kCancelTime;
     // On a connection of its own: the other one may be in the middle of a document.
     try {
       CupsConnection server([end] { return std::chrono::steady_clock::now() < end; });
-      return faultIn(server.ask(aboutThis(IPP_OP_CANCEL_JOB), "/jobs/")).empty();
+      const IppMessage request = aboutThis(IPP_OP_CANCEL_JOB);
+      if (leave == Leave::nothing) ippAddBoolean(request.get(), IPP_TAG_OPERATION, "purge-job", 1);
+      return faultIn(server.ask(request, "/jobs/")).empty();
     } catch (const JobError &) {
       return false;
     }
@@ -134,7 +140,7 @@ private:
 
 /// Throws the error of a job that was not sent: `what` happened, and what to do about it.
 [[noreturn]] void failWithAdvice(const std::string &what, ServerJob *job) {
-  const bool isGone = !job || job->cancel();
+  const bool isGone = !job || job->cancel(ServerJob::Leave::record);
   if (job && job->mayBePrinted())
     throw UnsureJobError(what +
                          ". It may have been printed: look at the queue before you print it again");
@@ -176,10 +182,10 @@ std::optional<int> send(const PrintJob &job, const SendProgress &progress) {
   } catch (const JobError &error) {
     if (isWanted) failWithAdvice(error.what(), serverJob ? &*serverJob : nullptr);
   } catch (...) {
-    if (serverJob) serverJob->cancel();
+    if (serverJob) serverJob->cancel(ServerJob::Leave::record);
     throw;
   }
-  if (serverJob && !serverJob->cancel())
+  if (serverJob && !serverJob->cancel(ServerJob::Leave::nothing))
     throw UnsureJobError(fmt::format(
         "the printer {} did not cancel its job {}, which may have been printed: look at the queue",
         job.queue, serverJob->id()));

@@ -29,7 +29,8 @@ std::string documentName(const std::string &path);
 using SendProgress = std::function<bool(long long sent, long long total)>;
 
 /// Sends `job` and returns its number once the server has confirmed the last document; none when
-/// `progress` cancelled it. A job that was not sent whole is cancelled on the server. Throws
+/// `progress` cancelled it. A job that was not sent whole is cancelled on the server, and
+/// gone from it when `progress` cancelled it. Throws
 /// `Error` for a document that cannot be read, and `JobError` when the server is gone, refuses the
 /// job or does not say that it took it; the message tells whether it may have been printed all the
 /// same.

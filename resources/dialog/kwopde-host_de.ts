@@ -254,6 +254,10 @@
         <translation>Anders als die Voreinstellungen des Druckers</translation>
     </message>
     <message>
+        <source>%1 (the job would print %2)</source>
+        <translation>%1 (der Auftrag würde %2 drucken)</translation>
+    </message>
+    <message>
         <source>&lt;p&gt;All that is set on the other tabs. What is other than the printer's defaults comes first.&lt;/p&gt;</source>
         <translation>&lt;p&gt;Alles, was auf den anderen Karten eingestellt ist. Zuerst steht, was von den Voreinstellungen des Druckers abweicht.&lt;/p&gt;</translation>
     </message>

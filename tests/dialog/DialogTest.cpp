@@ -314,6 +314,27 @@ TEST_F(Dialog, SummaryIsFreshWheneverItIsOpened) {
   tabs_->setCurrentIndex(0);
   widget<QLineEdit>("pageScaleEdit").setText("33");
   EXPECT_TRUE(texts().contains("33 %"));
+  tabs_->setCurrentIndex(0);
+  widget<QLineEdit>("pageScaleEdit").setText("9");
+  EXPECT_TRUE(texts().contains("9 % (the job would print 33)"));
+}
+
+TEST_F(Dialog, MenusOfferNoCustomValueWithoutItsNumber) {
+  openText(kMediaOptions +
+           "*CustomprintQuality True: \"\"\n"
+           "*ParamCustomprintQuality Level/Level: 1 int 0 9\n");
+  auto &menu = widget<QComboBox>("printQualityPopUp");
+  const QString custom = menu.itemText(menu.count() - 1);
+  EXPECT_EQ(custom, "Custom");
+  QTest::keyClick(&menu, Qt::Key_End);
+  EXPECT_NE(menu.currentText(), custom);
+  menu.showPopup();
+  EXPECT_TRUE(menu.view()->visualRect(menu.model()->index(menu.count() - 1, 0)).isEmpty());
+  menu.hidePopup();
+  session_->markSaved({{"printQuality", "Custom.5"}});
+  dialog_.emplace(module_, session_, "photo.png");
+  dialog_->show();
+  EXPECT_EQ(widget<QComboBox>("printQualityPopUp").currentText(), "5");
 }
 
 TEST_F(Dialog, TellsBelowThePanelWhatTheHostChangedOrRefused) {

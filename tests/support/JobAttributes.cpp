@@ -2,6 +2,7 @@
 
 #include <cups/cups.h>
 
+#include <algorithm>
 #include <array>
 
 namespace kwopde::test {
@@ -24,9 +25,12 @@ std::map<std::string, std::string> attributesOf(int job) {
 }
 
 int lastJob() {
-  int job = 0;
-  while (attributesOf(job + 1).count("job-id") > 0) ++job;
-  return job;
+  cups_job_t *jobs = nullptr;
+  const int count = cupsGetJobs2(CUPS_HTTP_DEFAULT, &jobs, nullptr, 0, CUPS_WHICHJOBS_ALL);
+  int last = 0;
+  for (int i = 0; i < count; ++i) last = std::max(last, jobs[i].id);
+  cupsFreeJobs(count, jobs);
+  return last;
 }
 
 }  // namespace kwopde::test
