@@ -6,7 +6,7 @@ namespace kwopde {
 
 namespace {
 
-constexpr PanelTraits kTraits{
+constexpr PanelTraits kColorTraits{
     .className = "ColorPDE",
     .word = "color",
     .interfaceFile = "ColorPDE",
@@ -24,7 +24,7 @@ constexpr PanelTraits kTraits{
 
 ColorPDE::ColorPDE()
     : PanelBase({
-          .traits = kTraits,
+          .traits = kColorTraits,
           .popUps = {{
               .key = "colorMode",
               .isKey = true,

@@ -6,7 +6,7 @@ namespace kwopde {
 
 namespace {
 
-constexpr PanelTraits kTraits{
+constexpr PanelTraits kMedia7032Traits{
     .className = "Media7032PDE",
     .word = "media",
     .interfaceFile = "Media7032PDE",
@@ -24,7 +24,7 @@ constexpr PanelTraits kTraits{
 
 Media7032PDE::Media7032PDE()
     : PanelBase({
-          .traits = kTraits,
+          .traits = kMedia7032Traits,
           .popUps =
               {
                   printQualityRow(*this),

@@ -16,7 +16,7 @@ ValueRow tracing(ValueRow row, const char *disabling) {
   return row;
 }
 
-constexpr PanelTraits kTraits{
+constexpr PanelTraits kMediaTraits{
     .className = "MediaPDE",
     .word = "media",
     .interfaceFile = "MediaPDE",
@@ -34,7 +34,7 @@ constexpr PanelTraits kTraits{
 
 MediaPDE::MediaPDE()
     : PanelBase({
-          .traits = kTraits,
+          .traits = kMediaTraits,
           .popUps = {tracing(printQualityRow(*this), "printQualitySelection=nil"),
                      tracing(printFinishRow(*this), "printFinishSelection=nil"),
                      tracing(rotateImageRow(*this), "rotateImageSelection=nil"),

@@ -4,7 +4,7 @@ namespace kwopde {
 
 namespace {
 
-constexpr PanelTraits kTraits{
+constexpr PanelTraits kSharpenTraits{
     .className = "SharpenPDE",
     .word = "sharpen",
     .interfaceFile = "SharpenPDE",
@@ -22,7 +22,7 @@ constexpr PanelTraits kTraits{
 
 SharpenPDE::SharpenPDE()
     : PanelBase({
-          .traits = kTraits,
+          .traits = kSharpenTraits,
           .popUps = {{
               .key = "sharpnessEnabled",
               .isKey = true,

@@ -18,15 +18,6 @@ namespace {
 
 Q_LOGGING_CATEGORY(trace, "kwopde.trace", QtWarningMsg)
 
-/// The system log, and Qt's message handler too once the category's messages are switched on.
-class QtLog final : public SystemLog {
-public:
-  void writeLine(std::string_view line) override {
-    SystemLog::writeLine(line);
-    qCInfo(trace, "%.*s", static_cast<int>(line.size()), line.data());
-  }
-};
-
 }  // namespace
 
 class Module final : public QObject, public PlugInModule, public ModuleInspector {
@@ -54,7 +45,16 @@ public:
   }
 
 private:
-  QtLog log_;
+  /// The system log, and Qt's message handler too once the category's messages are switched on.
+  class Log final : public SystemLog {
+  public:
+    void writeLine(std::string_view line) override {
+      SystemLog::writeLine(line);
+      qCInfo(trace, "%.*s", static_cast<int>(line.size()), line.data());
+    }
+  };
+
+  Log log_;
   QtInterfaceLoader loader_;
   LogSink *sinkBefore_;
   InterfaceLoader *loaderBefore_;

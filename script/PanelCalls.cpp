@@ -10,14 +10,6 @@ namespace {
 
 using Words = std::vector<Word>;
 
-const char *yesOrNo(bool answer) {
-  return answer ? "YES" : "NO";
-}
-
-const std::string *pointerTo(const Word &word) {
-  return word ? &*word : nullptr;
-}
-
 std::string panelView(Panel &panel, const Words &) {
   const View *view = panel.panelView();
   return view ? fmt::format("<{}>", view->className()) : "nil";

@@ -11,6 +11,16 @@ namespace kwopde::script {
 /// A word of a command; no text stands for `nil`.
 using Word = std::optional<std::string>;
 
+/// Returns the word as an argument of the contract; null for `nil`.
+inline const std::string *pointerTo(const Word &word) {
+  return word ? &*word : nullptr;
+}
+
+/// Returns `answer` as a transcript shows it.
+inline const char *yesOrNo(bool answer) {
+  return answer ? "YES" : "NO";
+}
+
 /// Returns `text` as a transcript shows it, in double quotes.
 std::string quoted(std::string_view text);
 

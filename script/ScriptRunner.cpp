@@ -30,14 +30,6 @@ std::string nameOf(const Word &word) {
   return word.value_or("nil");
 }
 
-const std::string *pointerTo(const Word &word) {
-  return word ? &*word : nullptr;
-}
-
-std::string yesOrNo(bool answer) {
-  return answer ? "YES" : "NO";
-}
-
 /// What `controls` shows for one control.
 std::string stateText(const View *control) {
   if (!control) return "nil";

@@ -269,11 +269,11 @@ TEST(SharpenValues, SlidTypedAnnouncedAndSummarised) {
   EXPECT_THAT(on.panel->summaryInfo()->entries(),
               ElementsAre(Pair("Sharpen", "Off"), Pair("Amount", "20 %"), Pair("Radius", "3"),
                           Pair("Threshold", "0")));
-  const int ends[][2] = {{0, 500}, {0, 50}, {0, 255}};
+  const int limits[][2] = {{0, 500}, {0, 50}, {0, 255}};
   const char *sliders[] = {"amountSlider", "radiusSlider", "thresholdSlider"};
   for (int i = 0; i < 3; ++i) {
-    EXPECT_EQ(on.widget<QSlider>(sliders[i]).minimum(), ends[i][0]);
-    EXPECT_EQ(on.widget<QSlider>(sliders[i]).maximum(), ends[i][1]);
+    EXPECT_EQ(on.widget<QSlider>(sliders[i]).minimum(), limits[i][0]);
+    EXPECT_EQ(on.widget<QSlider>(sliders[i]).maximum(), limits[i][1]);
   }
 }
 
