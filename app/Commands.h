@@ -8,5 +8,6 @@ namespace kwopde::app {
 Command checkCommand();
 Command optionsCommand();
 Command printCommand();
+Command traceCommand();
 
 }  // namespace kwopde::app

@@ -30,7 +30,7 @@ void expectReadable(const std::vector<std::string> &paths) {
   }
 }
 
-ScriptSource::ScriptSource(const std::string &name) : name_(name == "-" ? "standard input" : name) {
+TextSource::TextSource(const std::string &name) : name_(name == "-" ? "standard input" : name) {
   if (name != "-") file_ = openReadable(name);
   stream_ = name == "-" ? &std::cin : &file_;
 }

@@ -15,10 +15,10 @@ std::ifstream openReadable(const std::string &path);
 /// only once, and "-" for standard input are left alone.
 void expectReadable(const std::vector<std::string> &paths);
 
-/// A script's commands: a file, or standard input for "-".
-class ScriptSource {
+/// A text: a file, or standard input for "-".
+class TextSource {
 public:
-  explicit ScriptSource(const std::string &name);
+  explicit TextSource(const std::string &name);
   std::istream &stream() { return *stream_; }
 
   /// Returns what messages call it.

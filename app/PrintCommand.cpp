@@ -20,6 +20,7 @@
 #include "headless/Headless.h"
 #include "host/CupsOptions.h"
 #include "host/Error.h"
+#include "host/HostLog.h"
 #include "host/JobOptions.h"
 #include "host/PpdSession.h"
 #include "host/Refusals.h"
@@ -86,11 +87,11 @@ void apply(const std::string &words, host::PpdSession &session, host::JobOptions
 }
 
 /// Runs the script on panels without a screen. Returns whether all of it could be run.
-bool runScript(const PrintOptions &options, const std::shared_ptr<host::PpdSession> &session) {
-  ScriptSource source(options.script);
+bool runScript(const PrintOptions &options, const std::shared_ptr<host::PpdSession> &session,
+               LogSink &sink) {
+  TextSource source(options.script);
   headless::Module module;
-  const auto sink = openTrace(options.trace);
-  const host::TraceTo trace(module, sink.get());
+  const host::TraceTo trace(module, &sink);
   headless::UserInput user;
   std::ostream transcript(nullptr);  // discarded: print tells of the job only
   return script::ScriptRunner(module, session, user, transcript, std::cerr)
@@ -98,7 +99,8 @@ bool runScript(const PrintOptions &options, const std::shared_ptr<host::PpdSessi
 }
 
 /// Sends the job, and tells how far it is on a terminal. Returns its number; none when interrupted.
-std::optional<int> send(const host::PrintJob &job) {
+std::optional<int> send(const host::PrintJob &job, host::HostLog &log) try {
+  log.carries(job.options);
   // Kept to the very end of the process, so that a job that was sent is also told as sent.
   static const auto *const ending = new host::EndingSignals;
   const bool showsProgress = isatty(STDERR_FILENO) != 0;
@@ -109,20 +111,29 @@ std::optional<int> send(const host::PrintJob &job) {
     return !ending->wereHeard();
   });
   if (showsProgress) std::fputc('\n', stderr);
+  if (id)
+    log.jobWasSent(*id);
+  else
+    log.jobFailed("cancelled");
   return id;
+} catch (const host::Error &error) {
+  log.jobFailed(error.what());
+  throw;
 }
 
 int print(const PrintOptions &options) {
   const host::PrintQueue queue(options.printer);
   const auto session = queue.openSession();
   expectReadable(options.documents);
+  const auto sink = openTrace(options.trace);
+  host::HostLog log(sink.get(), *session);
   host::JobOptions carried(queue.options());
   {
     const host::Refusals refusals(*session);
     for (const std::string &words : options.options) apply(words, *session, carried);
     if (options.copies > 0) carried.set("copies", std::to_string(options.copies));
     if (!options.pages.empty()) carried.set("page-ranges", options.pages);
-    if (!options.script.empty() && !runScript(options, session)) return kNotDone;
+    if (!options.script.empty() && !runScript(options, session, *sink)) return kNotDone;
     const auto refused = refusals.sentences();
     for (const std::string &sentence : refused) tell("kwopde: {}", sentence);
     if (!refused.empty() && !options.force) {
@@ -134,7 +145,7 @@ int print(const PrintOptions &options) {
 
   host::PrintJob job{queue.name(), options.title, options.documents, carried.all()};
   if (job.title.empty()) job.title = host::documentName(job.documents.front());
-  const auto id = send(job);
+  const auto id = send(job, log);
   if (!id) {
     tell("kwopde: cancelled; the printer has no job");
     return kNotDone;

@@ -31,7 +31,7 @@ Command runCommand(const std::function<int(const RunOptions &)> &run) {
 int runScript(const RunOptions &options, PlugInModule &module, UserInput &user) {
   auto session = std::make_shared<host::PpdSession>(host::PpdFile::open(options.ppd),
                                                     !options.noConstraintHandling);
-  ScriptSource script(options.script);
+  TextSource script(options.script);
   const auto sink = options.trace.empty() ? nullptr : openTrace(options.trace);
   script::ScriptRunner runner(module, session, user, std::cout, std::cerr);
   const host::TraceTo trace(module, sink ? sink.get() : &runner);

@@ -33,6 +33,7 @@ int main(int argc, char **argv) {
                                 optionsCommand(),
                                 runCommand(run),
                                 checkCommand(),
+                                traceCommand(),
                                 validateCommand(inQtProgram("validate"))};
   commands.push_back(completeCommand(commands));
   return runCommandLine(argc, argv, commands);

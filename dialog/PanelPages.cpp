@@ -7,6 +7,7 @@
 
 #include "dialog/OptionRow.h"
 #include "dialog/SummaryPage.h"
+#include "host/TraceTo.h"
 #include "platform/PanelInspector.h"
 
 namespace kwopde::dialog {
@@ -125,6 +126,7 @@ PanelPages::PanelPages(PlugInModule &module, std::shared_ptr<host::PpdSession> s
       extension_(module, session_) {
   panels_ = extension_.open();
   if (!panels_) return;
+  log_.emplace(host::traceSinkOf(module), *session_);
   for (const auto &panel : *panels_) {
     panel->restoreValuesAndReturnError(nullptr);
     panelPages_.append(new PanelPage(*panel, *session_));

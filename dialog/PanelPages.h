@@ -5,11 +5,13 @@
 #include <QObject>
 #include <QPointer>
 #include <memory>
+#include <optional>
 #include <set>
 
 #include "dialog/Notices.h"
 #include "dialog/Page.h"
 #include "host/Extension.h"
+#include "host/HostLog.h"
 #include "host/PpdSession.h"
 #include "platform/PlugIn.h"
 
@@ -92,6 +94,9 @@ public:
   /// Lets the panels show what is marked now, after somebody else has marked it.
   void showMarks();
 
+  /// Returns the host's part of the trace; null when there are no pages.
+  host::HostLog *log() { return log_ ? &*log_ : nullptr; }
+
   /// Returns whether what is set differs from what was set at first.
   bool isChanged() const { return session_->isChanged(); }
 
@@ -110,6 +115,7 @@ private:
   Notices notices_;
   host::Extension extension_;
   const PanelList *panels_ = nullptr;  // null when there are none
+  std::optional<host::HostLog> log_;
   QList<QPointer<PanelPage>> panelPages_;
   QPointer<SummaryPage> summaryPage_;
   std::vector<Notices::Refusal> told_;  // by the last call of print

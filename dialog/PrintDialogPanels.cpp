@@ -212,6 +212,7 @@ void PrintDialogPanels::handOver() {
     if (const auto value = known.value(key); value && !optionsOfQt().contains(key))
       handed.set(key, *value);
   setCupsOptions(printer, handed.all());
+  log()->carries(handed.all());
 }
 
 void PrintDialogPanels::carryPanels(host::JobOptions &job) const {

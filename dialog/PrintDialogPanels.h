@@ -43,6 +43,9 @@ public:
   /// Returns all that a job of this dialog carries, as settled last.
   host::JobOptions jobOptions() const;
 
+  /// Returns the host's part of the trace for the chosen printer; null when that has no panels.
+  host::HostLog *log() const { return pages_ ? pages_->log() : nullptr; }
+
   /// Hands what the panels have settled to the dialog's QPrinter, as CUPS options, for an
   /// application that paints on it. What Qt has in hand itself (paper, sides) stays Qt's.
   void handOver();

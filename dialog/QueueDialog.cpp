@@ -105,8 +105,11 @@ QueueDialog::Outcome QueueDialog::sendDocuments() {
     QMessageBox failure(QMessageBox::Warning, tr("Printing failed"), {}, QMessageBox::Close, this);
     failure.setTextFormat(Qt::PlainText);
     std::optional<host::EndingSignals> ending(std::in_place);
+    const host::PrintJob job = this->job();
+    host::HostLog *const log = panels_.log();
+    if (log) log->carries(job.options);
     try {
-      jobId_ = send(job(), [&](long long sent, long long total) {
+      jobId_ = send(job, [&](long long sent, long long total) {
         progress.setValue(static_cast<int>(std::min(sent * 999 / std::max(total, 1LL), 999LL)));
         QCoreApplication::processEvents();
         return !progress.wasCanceled() && !ending->wereHeard();
@@ -118,6 +121,10 @@ QueueDialog::Outcome QueueDialog::sendDocuments() {
       failure.addButton(QMessageBox::Retry);
       failure.setDefaultButton(QMessageBox::Retry);
     }
+    if (log && jobId_)
+      log->jobWasSent(*jobId_);
+    else if (log)
+      log->jobFailed(failure.text().isEmpty() ? "cancelled" : failure.text().toStdString());
     const bool isEnded = ending->wereHeard();
     ending.reset();  // nothing is left to clear away while a message waits
     if (jobId_) return Outcome::sent;

@@ -63,18 +63,6 @@ void localize(ppd_file_t &ppd) {
     choice->text[text.copy(choice->text, PPD_MAX_TEXT - 1)] = 0;
 }
 
-/// Whether a custom value of the option holds a password or a passcode.
-bool isSecret(ppd_file_t &ppd, const ppd_option_t &option) {
-  const ppd_coption_t *custom = ppdFindCustomOption(&ppd, option.keyword);
-  if (!custom) return false;
-  for (int i = 0; i < cupsArrayCount(custom->params); ++i) {
-    const auto *parameter = static_cast<ppd_cparam_t *>(cupsArrayIndex(custom->params, i));
-    if (parameter->type == PPD_CUSTOM_PASSWORD || parameter->type == PPD_CUSTOM_PASSCODE)
-      return true;
-  }
-  return false;
-}
-
 }  // namespace
 
 PpdFile PpdFile::open(const std::string &path) {
@@ -114,9 +102,19 @@ std::string PpdFile::textOf(const std::string &key, const std::string &choice) c
   ppd_option_t *option = ppdFindOption(get(), key.c_str());
   const ppd_choice_t *found = option ? ppdFindChoice(option, choice.c_str()) : nullptr;
   // A custom value is best told by itself, unless it is nobody else's business.
-  if (const auto value = customValue(choice))
-    return option && isSecret(*get(), *option) ? "•••" : std::string(*value);
+  if (const auto value = customValue(choice)) return isSecret(key) ? "•••" : std::string(*value);
   return found && *found->text ? found->text : choice;
+}
+
+bool PpdFile::isSecret(const std::string &key) const {
+  const ppd_coption_t *custom = ppdFindCustomOption(get(), key.c_str());
+  if (!custom) return false;
+  for (int i = 0; i < cupsArrayCount(custom->params); ++i) {
+    const auto *parameter = static_cast<ppd_cparam_t *>(cupsArrayIndex(custom->params, i));
+    if (parameter->type == PPD_CUSTOM_PASSWORD || parameter->type == PPD_CUSTOM_PASSCODE)
+      return true;
+  }
+  return false;
 }
 
 void PpdFile::forEachOption(const std::function<void(const ppd_option_t &)> &visit) const {

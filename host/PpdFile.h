@@ -37,6 +37,9 @@ public:
   std::string textOf(const std::string &key) const;
   std::string textOf(const std::string &key, const std::string &choice) const;
 
+  /// Returns whether a custom value of the option holds a password or a passcode.
+  bool isSecret(const std::string &key) const;
+
   /// Calls `visit` for every option, group by group.
   void forEachOption(const std::function<void(const ppd_option_t &)> &visit) const;
 

@@ -81,6 +81,10 @@ public:
   /// Marks what the user has saved for the printer; what the PPD does not have is passed over.
   void markSaved(const std::vector<OptionChoice> &saved);
 
+  /// The queue that the session is for, with its instance; empty for a PPD alone.
+  const std::string &printer() const { return printer_; }
+  void setPrinter(std::string printer) { printer_ = std::move(printer); }
+
   /// Tells what the queue gives every job in place of the PPD's defaults. What the PPD does not
   /// have counts for nothing.
   void setQueueDefaults(std::vector<OptionChoice> defaults) {
@@ -149,6 +153,7 @@ private:
   Constraints constraints_;
   bool constraintHandling_;
   bool refusesAll_ = false;
+  std::string printer_;
   std::vector<OptionChoice> queueDefaults_;
   const PanelList *panels_ = nullptr;
   std::vector<SessionObserver *> observers_;

@@ -20,6 +20,13 @@ private:
   LogSink *before_;
 };
 
+/// Returns where the trace of `module` goes, borrowed; null for the module's own sink.
+inline LogSink *traceSinkOf(PlugInModule &module) {
+  LogSink *const sink = module.setLogSink(nullptr);
+  module.setLogSink(sink);
+  return sink;
+}
+
 /// Lets the trace of `module` go nowhere while this lives.
 class Untraced {
 public:

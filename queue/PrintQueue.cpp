@@ -109,6 +109,7 @@ std::shared_ptr<PpdSession> PrintQueue::openSession() const {
                     name_, name_));
   auto session = std::make_shared<PpdSession>(
       PpdFile::read(ppd.get(), fmt::format("the PPD of the printer {}", name_)));
+  session->setPrinter(destination());
   session->markSaved(options_);
   return session;
 }

@@ -20,6 +20,10 @@ namespace kwopde {
 /// them; with `openOptions` they are open at once. Call it before the dialog is shown; a second
 /// call changes nothing. Returns false when the extension's module is not installed; the dialog
 /// then stays as it was, and a warning tells why.
+///
+/// The panels write a trace to the system log, under the application's name. Nothing of it reaches
+/// Qt's message handler, or a terminal, unless the logging category "kwopde.trace" is switched on
+/// for messages of the kind info.
 KWOPDE_ATTACH_API bool attachPanels(QPrintDialog *dialog, bool openOptions = false);
 
 }  // namespace kwopde

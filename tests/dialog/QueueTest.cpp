@@ -1,4 +1,5 @@
 // Real printing to the queues of a private CUPS server; scripts/with-cups runs this program.
+#include <fmt/format.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <signal.h>
@@ -26,6 +27,7 @@
 #include "dialog/SettingsDialog.h"
 #include "host/Error.h"
 #include "host/JobOptions.h"
+#include "host/TraceTo.h"
 #include "queue/CupsConnection.h"
 #include "queue/PrintJob.h"
 #include "queue/PrintQueue.h"
@@ -269,7 +271,12 @@ TEST_F(QtDialog, TwoDialogsOfOneQueueKeepTheirSettingsApart) {
   EXPECT_FALSE(b.contains("pageScale"));
 }
 
-TEST_F(QtDialog, SendsWhatWasSet) {
+TEST_F(QtDialog, SendsWhatWasSetAndSaysSoInTheTrace) {
+  struct : LogSink {
+    void writeLine(std::string_view line) override { text.append(line).append("\n"); }
+    std::string text;
+  } trace;
+  const host::TraceTo tracing(dialog::loadModule(), &trace);
   dialog::QueueDialog dialog(dialog::loadModule(), printer_, {document("photo.txt", "photo")});
   open(dialog, 4);
   dialog.findChild<QLineEdit *>("amountLabel")->setText("20");
@@ -279,6 +286,8 @@ TEST_F(QtDialog, SendsWhatWasSet) {
   EXPECT_EQ(attribute(*dialog.jobId(), "sharpnessAmount"), "20");
   EXPECT_EQ(attribute(*dialog.jobId(), "job-name"), "photo.txt");
   EXPECT_EQ(attribute(*dialog.jobId(), "pageScale"), "");
+  EXPECT_THAT(trace.text, HasSubstr(") request key=sharpnessAmount wanted=20 answer=granted\n"));
+  EXPECT_THAT(trace.text, testing::EndsWith(fmt::format(") sent job={}\n", *dialog.jobId())));
 }
 
 TEST_F(QtDialog, SendsOneJobForADoubleClickAndNoneAfterASignal) {
