@@ -139,7 +139,11 @@ int print(const PrintOptions &options) {
     tell("kwopde: cancelled; the printer has no job");
     return kNotDone;
   }
-  JobReport{carried.chosen(), job, *id}.write(options.json);
+  try {
+    JobReport{carried.chosen(), job, *id}.write(options.json);
+  } catch (const std::exception &) {
+    noteLostOutput("what the job carries");  // it is sent, whatever becomes of the report
+  }
   return kDone;
 }
 

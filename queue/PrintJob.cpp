@@ -175,7 +175,8 @@ std::optional<int> send(const PrintJob &job, const SendProgress &progress) {
     }
   } catch (const JobError &error) {
     if (isWanted) failWithAdvice(error.what(), serverJob ? &*serverJob : nullptr);
-  } catch (...) {
+  } catch (const std::exception &error) {
+    if (serverJob && serverJob->mayBePrinted()) failWithAdvice(error.what(), &*serverJob);
     if (serverJob) serverJob->cancel();
     throw;
   }

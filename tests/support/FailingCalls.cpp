@@ -1,0 +1,102 @@
+// Preloaded into a command: call number FAIL_AT of a kind fails, counted from 1 over the process; a
+// negative number stands for that call and all later ones, and 0 for none. FAIL_CALLS is the kind:
+// "memory", "files" (what is written to them), "sockets", or "names", which are then not found for a
+// minute. The number of calls is written to the file FAIL_COUNT when the process ends.
+#include <dlfcn.h>
+#include <netdb.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <atomic>
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+
+extern "C" void *__libc_malloc(std::size_t size);
+extern "C" void *__libc_calloc(std::size_t count, std::size_t size);
+extern "C" void *__libc_realloc(void *memory, std::size_t size);
+
+namespace {
+
+std::atomic<long> calls{0};
+
+/// Counts a call of `kind`, and returns whether it is the one that fails.
+bool fails(const char *kind) {
+  // The environment may not be there yet when the first memory is asked for.
+  const char *const wanted = environ ? std::getenv("FAIL_CALLS") : nullptr;
+  if (!wanted || std::strcmp(wanted, kind) != 0) return false;
+  const char *const at = std::getenv("FAIL_AT");
+  const long number = at ? std::atol(at) : 0;
+  const long call = ++calls;
+  return number > 0 ? call == number : number < 0 && call >= -number;
+}
+
+bool failsToWrite(const char *kind) {
+  if (!fails(kind)) return false;
+  errno = ENOSPC;
+  return true;
+}
+
+bool failsToAllocate() {
+  if (!fails("memory")) return false;
+  errno = ENOMEM;
+  return true;
+}
+
+template <class Function>
+Function next(Function, const char *name) {
+  return reinterpret_cast<Function>(dlsym(RTLD_NEXT, name));
+}
+
+[[gnu::destructor]] void tellCount() {
+  const char *const path = std::getenv("FAIL_COUNT");
+  const long count = calls;
+  std::FILE *file = path ? std::fopen(path, "w") : nullptr;
+  if (file) std::fprintf(file, "%ld", count);
+  if (file) std::fclose(file);
+}
+
+}  // namespace
+
+#define EXPORTED extern "C" [[gnu::visibility("default")]]
+
+EXPORTED void *malloc(std::size_t size) {
+  return failsToAllocate() ? nullptr : __libc_malloc(size);
+}
+
+EXPORTED void *calloc(std::size_t count, std::size_t size) {
+  return failsToAllocate() ? nullptr : __libc_calloc(count, size);
+}
+
+EXPORTED void *realloc(void *memory, std::size_t size) {
+  return failsToAllocate() ? nullptr : __libc_realloc(memory, size);
+}
+
+EXPORTED int getaddrinfo(const char *name, const char *service, const addrinfo *hints,
+                         addrinfo **found) {
+  static const auto real = next(&::getaddrinfo, "getaddrinfo");
+  if (fails("names")) sleep(60);
+  return real(name, service, hints, found);
+}
+
+EXPORTED ssize_t write(int file, const void *data, std::size_t size) {
+  static const auto real = next(&::write, "write");
+  return failsToWrite("files") ? -1 : real(file, data, size);
+}
+
+EXPORTED ssize_t send(int socket, const void *data, std::size_t size, int flags) {
+  static const auto real = next(&::send, "send");
+  return failsToWrite("sockets") ? -1 : real(socket, data, size, flags);
+}
+
+EXPORTED std::size_t fwrite(const void *data, std::size_t size, std::size_t count,
+                            std::FILE *file) {
+  static const auto real = next(&std::fwrite, "fwrite");
+  return failsToWrite("files") ? 0 : real(data, size, count, file);
+}
+
+EXPORTED int fflush(std::FILE *file) {
+  static const auto real = next(&std::fflush, "fflush");
+  return failsToWrite("files") ? EOF : real(file);
+}
