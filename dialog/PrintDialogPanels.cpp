@@ -31,8 +31,7 @@ PrintDialogPanels::PrintDialogPanels(PlugInModule &module, QPrintDialog &dialog)
     : QObject(&dialog), module_(module), dialog_(dialog) {
   // Its labels show what the server says of a printer, and its Properties what the PPD says.
   showPlainly(dialog);
-  for (QObject *part : dialog.findChildren<QWidget *>())
-    if (part->inherits("QUnixPrintWidget")) part->installEventFilter(this);
+  dialog.installEventFilter(this);
   // The dialog tells nobody which printer is chosen, but its combo box does.
   if (auto *printers = dialog.findChild<QComboBox *>("printers"))
     connect(printers, &QComboBox::currentTextChanged, this, &PrintDialogPanels::showPanelsOf);
