@@ -70,8 +70,7 @@ void noteLostOutput(std::string_view what) noexcept {
 
 bool finishOutput() noexcept {
   errno = 0;
-  if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0)
-    noteLostResult(errno ? errno : EIO);
+  if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0) noteLostResult(errno ? errno : EIO);
   if (!isLost) return true;
   put("kwopde: not all output was written: ", stderr);
   writeMessage(lost);

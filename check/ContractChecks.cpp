@@ -279,8 +279,7 @@ constexpr Check kChecks[] = {
          callAll(probe, *panel);
        }
        expectWorked(worked);
-       expectCount(probe.host->requests, 0,
-                   "a panel asks a host that answers nothing; requests");
+       expectCount(probe.host->requests, 0, "a panel asks a host that answers nothing; requests");
      }},
     {"host.refuses-all", "after a refused pick, a pop-up shows what is marked",
      [](const Subject &subject) {

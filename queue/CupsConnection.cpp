@@ -57,7 +57,7 @@ CupsConnection::CupsConnection(std::function<bool()> goesOn)
     const auto start = steady_clock::now();
     if (isKnown)
       http_.reset(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
-                             static_cast<int>(kConnectTry.count()), nullptr));
+                               static_cast<int>(kConnectTry.count()), nullptr));
     const bool isRefused = !http_ && steady_clock::now() - start < kConnectTry;
     if (isRefused || (!http_ && !mayWait()))
       throw JobError(

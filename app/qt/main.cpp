@@ -51,9 +51,9 @@ int main(int argc, char **argv) {
   };
   return runCommandLine(argc, argv, [&] {
     return std::vector<Command>{dialogCommand(inApplication(runDialogCommand, shows)),
-                         portalDialogCommand(inApplication(runPortalDialogCommand, always)),
-                         settingsCommand(inApplication(runSettingsCommand, shows)),
-                         runCommand(inApplication(runScriptInQt, never)),
-                         validateCommand(inApplication(runValidateCommand, never))};
+                                portalDialogCommand(inApplication(runPortalDialogCommand, always)),
+                                settingsCommand(inApplication(runSettingsCommand, shows)),
+                                runCommand(inApplication(runScriptInQt, never)),
+                                validateCommand(inApplication(runValidateCommand, never))};
   });
 }

@@ -156,7 +156,7 @@ protected:
       auto *box = qobject_cast<QMessageBox *>(question);
       if (box && box->standardButtons() != QMessageBox::NoButton)
         box->button(box->standardButtons().testFlag(QMessageBox::Close) ? QMessageBox::Close
-                                                                       : QMessageBox::Cancel)
+                                                                        : QMessageBox::Cancel)
             ->click();
       else
         question->reject();

@@ -80,8 +80,8 @@ TEST(PpdFile, IsRefusedWhenReadingItWouldCostTooMuch) {
     choices += "*many " + key + ": \"\"\n";
   }
   EXPECT_THAT(whyNot(written("options.ppd", ppdText(options))), HasSubstr("too many options"));
-  EXPECT_THAT(whyNot(written("choices.ppd", ppdText("*OpenUI *many: PickOne\n" + choices +
-                                                    "*CloseUI: *many\n"))),
+  EXPECT_THAT(whyNot(written("choices.ppd",
+                             ppdText("*OpenUI *many: PickOne\n" + choices + "*CloseUI: *many\n"))),
               HasSubstr("too many options"));
   EXPECT_EQ(whyNot(written("lines.ppd", ppdText(kMediaOptions + choices))), "opened");
 }

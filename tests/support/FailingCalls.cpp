@@ -1,7 +1,7 @@
 // Preloaded into a command: call number FAIL_AT of a kind fails, counted from 1 over the process; a
 // negative number stands for that call and all later ones, and 0 for none. FAIL_CALLS is the kind:
-// "memory", "files" (what is written to them), "sockets", or "names", which are then not found for a
-// minute. The number of calls is written to the file FAIL_COUNT when the process ends.
+// "memory", "files" (what is written to them), "sockets", or "names", which are then not found for
+// a minute. The number of calls is written to the file FAIL_COUNT when the process ends.
 #include <dlfcn.h>
 #include <netdb.h>
 #include <sys/socket.h>
