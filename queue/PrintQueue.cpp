@@ -47,12 +47,22 @@ Stream fetchPpd(const std::string &queue) {
   }
 }
 
-/// Throws `JobError` when `server` does not answer.
-void expectAnswer(CupsConnection &server) {
-  const IppMessage question(ippNewRequest(IPP_OP_CUPS_GET_DEFAULT));
+/// How often the library is asked again for a printer that is there.
+constexpr int kMostRepeats = 5;
+
+/// Returns whether the server has the printer, or with an empty name a default one. Throws
+/// `JobError` when it does not answer.
+bool hasPrinter(CupsConnection &server, const std::string &queue) {
+  const IppMessage question = queue.empty() ? IppMessage(ippNewRequest(IPP_OP_CUPS_GET_DEFAULT))
+                                            : requestAbout(queue, IPP_OP_GET_PRINTER_ATTRIBUTES);
   ippAddString(question.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
                "printer-name");
-  server.ask(question, "/");
+  return faultIn(server.ask(question, "/")).empty();
+}
+
+/// Throws `JobError` when `server` does not answer.
+void expectAnswer(CupsConnection &server) {
+  hasPrinter(server, {});
 }
 
 }  // namespace
@@ -69,8 +79,14 @@ PrintQueue::PrintQueue(const std::string &name) {
     return cupsGetNamedDest(server.get(), queue.empty() ? nullptr : queue.c_str(),
                             instance.empty() ? nullptr : instance.c_str());
   };
-  cups_dest_t *const dest = find();
-  if (!dest) expectAnswer(server);
+  cups_dest_t *dest = find();
+  // To the library, a connection that was lost is a printer that is not there.
+  for (int repeats = 0; !dest && hasPrinter(server, queue); ++repeats) {
+    if (repeats == kMostRepeats && queue.empty()) break;
+    if (repeats == kMostRepeats)
+      throw JobError(fmt::format("the CUPS server did not tell of the printer {}", queue));
+    dest = find();
+  }
   if (!dest)
     throw Error(name.empty() ? "there is no default printer: name one with --printer, or a PPD "
                                "file with --ppd"

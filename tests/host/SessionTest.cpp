@@ -58,10 +58,9 @@ TEST(PpdFile, IsRefusedWhenReadingItWouldCostTooMuch) {
   const std::string packed = written("packed.ppd", "");
   cups_file_t *file = cupsFileOpen(packed.c_str(), "w9");
   cupsFilePuts(file, ppdText(kMediaOptions).c_str());
-  const std::string comment(10000, '%');
+  const std::string comment(200, '%');
   const auto grow = [&](int megabytes) {
-    for (int i = 0; i < megabytes * 100; ++i) cupsFilePrintf(file, "*%%%s\n", comment.c_str());
-    cupsFileFlush(file);
+    for (int i = 0; i < megabytes * 5000; ++i) cupsFilePrintf(file, "*%%%s\n", comment.c_str());
   };
   grow(1);
   cupsFileClose(file);
