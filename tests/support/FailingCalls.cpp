@@ -1,7 +1,8 @@
-// Preloaded into a command: call number FAIL_AT of a kind fails, counted from 1 over the process; a
-// negative number stands for that call and all later ones, and 0 for none. FAIL_CALLS is the kind:
-// "memory", "files" (what is written to them), "sockets", or "names", which are then not found for
-// a minute. The number of calls is written to the file FAIL_COUNT when the process ends.
+// Preloaded into a command: call number FAIL_AT of a kind fails, counted from 1 from the start of
+// main() on, before which nobody could catch anything; a negative number stands for that call and
+// all later ones, and 0 for none. FAIL_CALLS is the kind: "memory", "files" (what is written to
+// them), "sockets", or "names", which are then not found for a minute. The number of calls is
+// written to the file FAIL_COUNT when the process ends.
 #include <dlfcn.h>
 #include <netdb.h>
 #include <sys/socket.h>
@@ -19,12 +20,20 @@ extern "C" void *__libc_realloc(void *memory, std::size_t size);
 
 namespace {
 
+using Main = int (*)(int, char **, char **);
+
 std::atomic<long> calls{0};
+std::atomic<bool> isCounting{false};
+Main program = nullptr;
+
+int countingMain(int argc, char **argv, char **environment) {
+  isCounting = true;
+  return program(argc, argv, environment);
+}
 
 /// Counts a call of `kind`, and returns whether it is the one that fails.
 bool fails(const char *kind) {
-  // The environment may not be there yet when the first memory is asked for.
-  const char *const wanted = environ ? std::getenv("FAIL_CALLS") : nullptr;
+  const char *const wanted = isCounting ? std::getenv("FAIL_CALLS") : nullptr;
   if (!wanted || std::strcmp(wanted, kind) != 0) return false;
   const char *const at = std::getenv("FAIL_AT");
   const long number = at ? std::atol(at) : 0;
@@ -60,6 +69,13 @@ Function next(Function, const char *name) {
 }  // namespace
 
 #define EXPORTED extern "C" [[gnu::visibility("default")]]
+
+EXPORTED int __libc_start_main(Main main, int argc, char **argv, void (*init)(), void (*fini)(),
+                               void (*loaded)(), void *stack) {
+  program = main;
+  using Start = int (*)(Main, int, char **, void (*)(), void (*)(), void (*)(), void *);
+  return next(Start(), "__libc_start_main")(countingMain, argc, argv, init, fini, loaded, stack);
+}
 
 EXPORTED void *malloc(std::size_t size) {
   return failsToAllocate() ? nullptr : __libc_malloc(size);
