@@ -14,6 +14,9 @@
 #include <cstdlib>
 #include <cstring>
 
+// The C library's own names.
+// NOLINTBEGIN(bugprone-reserved-identifier)
+
 extern "C" void *__libc_malloc(std::size_t size);
 extern "C" void *__libc_calloc(std::size_t count, std::size_t size);
 extern "C" void *__libc_realloc(void *memory, std::size_t size);
@@ -116,3 +119,5 @@ EXPORTED int fflush(std::FILE *file) {
   static const auto real = next(&std::fflush, "fflush");
   return failsToWrite("files") ? EOF : real(file);
 }
+
+// NOLINTEND(bugprone-reserved-identifier)
