@@ -276,7 +276,7 @@ int runValidateCommand(const ValidateOptions &given) {
     }
     return kDone;
   }
-  if (options.inProcess && options.keep.empty()) options.keep = ".";
+  if (options.inProcess && options.keep.empty()) options.keep = {'.'};
   const auto results = options.inProcess ? runHere(options) : runAllApart(options);
   if (results.empty())
     throw host::Error(fmt::format("there is no check {}: --list names them", options.only));
