@@ -2,11 +2,11 @@
 
 #include <algorithm>
 #include <memory>
-#include <nlohmann/json.hpp>
 #include <string>
 #include <vector>
 
 #include "app/Commands.h"
+#include "app/Json.h"
 #include "app/Output.h"
 #include "check/PpdCheck.h"
 #include "headless/Headless.h"
@@ -65,9 +65,7 @@ int check(const CheckOptions &options) {
       status = kBadInput;
     }
   }
-  // A PPD's texts may be in no valid encoding.
-  if (options.json)
-    writeResult(reports.dump(2, ' ', false, nlohmann::json::error_handler_t::replace) + '\n');
+  if (options.json) writeJson(reports, 2);
   return status;
 }
 

@@ -117,11 +117,11 @@ int parseAndRun(int argc, char **argv, const std::vector<Command> &commands) {
 
 }  // namespace
 
-int runCommandLine(int argc, char **argv, const std::vector<Command> &commands) {
+int runCommandLine(int argc, char **argv, const std::function<std::vector<Command>()> &commands) {
   openStandardStreams();
   int status = kNotDone;
   try {
-    status = parseAndRun(argc, argv, commands);
+    status = parseAndRun(argc, argv, commands());
   } catch (const std::exception &error) {
     writeMessage("kwopde: stopped by a fault of its own, or of this machine:");
     writeMessage(error.what());

@@ -1,7 +1,6 @@
 #include "app/JobReport.h"
 
-#include <nlohmann/json.hpp>
-
+#include "app/Json.h"
 #include "app/Output.h"
 
 namespace kwopde::app {
@@ -28,7 +27,7 @@ void JobReport::write(bool asJson) const {
                      {"printer", job->queue},
                      {"title", job->title},
                      {"options", toJson(job->options)}};
-  writeResultLine(report.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace));
+  writeJson(report);
 }
 
 }  // namespace kwopde::app

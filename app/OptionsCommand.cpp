@@ -1,12 +1,12 @@
 #include <fmt/format.h>
 
 #include <memory>
-#include <nlohmann/json.hpp>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "app/Commands.h"
+#include "app/Json.h"
 #include "app/Output.h"
 #include "headless/Headless.h"
 #include "host/Extension.h"
@@ -113,10 +113,8 @@ int listOptions(const OptionsOptions &options) {
                            ? host::PrintQueue(options.printer).openSession()
                            : std::make_shared<host::PpdSession>(host::PpdFile::open(options.ppd));
   const auto described = describeAll(session);
-  // A PPD's texts may be in no valid encoding.
   if (options.json)
-    writeResult(toJson(described).dump(2, ' ', false, nlohmann::json::error_handler_t::replace) +
-                '\n');
+    writeJson(toJson(described), 2);
   else
     printText(described);
   return kDone;

@@ -13,11 +13,20 @@ namespace kwopde::app {
 
 namespace {
 
-std::string lost;  // the first output that could not be written; empty while there is none
+bool isLost = false;  // whether any output could not be written
+std::string lost;     // which was the first; empty also for want of memory
 
-void put(std::string_view text, std::FILE *stream) {
+void noteLostResult(int error) noexcept {
+  try {
+    noteLostOutput(fmt::format("standard output: {}", std::strerror(error)));
+  } catch (const std::exception &) {
+    noteLostOutput({});
+  }
+}
+
+void put(std::string_view text, std::FILE *stream) noexcept {
   if (std::fwrite(text.data(), 1, text.size(), stream) != text.size() && stream == stdout)
-    noteLostOutput(fmt::format("standard output: {}", std::strerror(errno)));
+    noteLostResult(errno);
 }
 
 void putLine(std::string_view text, std::FILE *stream) noexcept {
@@ -50,16 +59,21 @@ void writeMessage(std::string_view text) noexcept {
   putLine(text, stderr);
 }
 
-void noteLostOutput(const std::string &what) noexcept {
-  if (lost.empty()) lost = what;
+void noteLostOutput(std::string_view what) noexcept {
+  isLost = true;
+  try {
+    if (lost.empty()) lost = what;
+  } catch (const std::exception &) {
+    // It is lost all the same.
+  }
 }
 
 bool finishOutput() noexcept {
   errno = 0;
-  if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0)
-    noteLostOutput(fmt::format("standard output: {}", std::strerror(errno ? errno : EIO)));
-  if (lost.empty()) return true;
-  writeMessage("kwopde: " + lost);
+  if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0) noteLostResult(errno ? errno : EIO);
+  if (!isLost) return true;
+  put("kwopde: not all output was written: ", stderr);
+  writeMessage(lost);
   return false;
 }
 

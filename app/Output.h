@@ -23,7 +23,7 @@ void writeResultLine(std::string_view text) noexcept;
 void writeMessage(std::string_view text) noexcept;
 
 /// Notes that output could not be written. `what` says which, and why.
-void noteLostOutput(const std::string &what) noexcept;
+void noteLostOutput(std::string_view what) noexcept;
 
 /// Writes all results out. Returns whether every output could be written, and tells the first that
 /// could not.

@@ -111,10 +111,7 @@ std::optional<int> send(const host::PrintJob &job, host::HostLog &log) try {
     return !ending->wereHeard();
   });
   if (showsProgress) std::fputc('\n', stderr);
-  if (id)
-    log.jobWasSent(*id);
-  else
-    log.jobFailed("cancelled");
+  if (!id) log.jobFailed("cancelled");
   return id;
 } catch (const host::Error &error) {
   log.jobFailed(error.what());
@@ -150,7 +147,12 @@ int print(const PrintOptions &options) {
     tell("kwopde: cancelled; the printer has no job");
     return kNotDone;
   }
-  JobReport{carried.chosen(), job, *id}.write(options.json);
+  try {
+    JobReport{carried.chosen(), job, *id}.write(options.json);
+    log.jobWasSent(*id);
+  } catch (const std::exception &) {
+    noteLostOutput("what the job carries");  // it is sent, whatever becomes of the report
+  }
   return kDone;
 }
 

@@ -27,14 +27,16 @@ int main(int argc, char **argv) {
     headless::UserInput user;
     return runScript(options, module, user);
   };
-  std::vector<Command> commands{dialogCommand(inQtProgram("dialog")),
-                                settingsCommand(inQtProgram("settings")),
-                                printCommand(),
-                                optionsCommand(),
-                                runCommand(run),
-                                checkCommand(),
-                                traceCommand(),
-                                validateCommand(inQtProgram("validate"))};
-  commands.push_back(completeCommand(commands));
-  return runCommandLine(argc, argv, commands);
+  return runCommandLine(argc, argv, [&] {
+    std::vector<Command> commands{dialogCommand(inQtProgram("dialog")),
+                                  settingsCommand(inQtProgram("settings")),
+                                  printCommand(),
+                                  optionsCommand(),
+                                  runCommand(run),
+                                  checkCommand(),
+                                  traceCommand(),
+                                  validateCommand(inQtProgram("validate"))};
+    commands.push_back(completeCommand(commands));
+    return commands;
+  });
 }

@@ -2,7 +2,6 @@
 
 #include <QEvent>
 #include <QPrintDialog>
-#include <QtDebug>
 
 #include "dialog/ModuleLoader.h"
 #include "dialog/PlainText.h"
@@ -37,6 +36,8 @@ private:
     panels_.handOver();
     // The application prints now, so this can only be told.
     QStringList problems = panels_.refusals();
+    if (const QString replaced = panels_.followPpd(); !replaced.isEmpty())
+      problems.append(replaced);
     if (const QString conflicts = panels_.conflicts(); !conflicts.isEmpty())
       problems.append(conflicts);
     if (problems.isEmpty()) return;
@@ -60,7 +61,7 @@ bool attachPanels(QPrintDialog *dialog, bool openOptions) {
     if (openOptions) dialog::expandOptions(*dialog);
     return true;
   } catch (const host::Error &error) {
-    qWarning("kwopde: %s", error.what());
+    dialog::log(error.what());
     return false;
   }
 }

@@ -22,6 +22,11 @@ void expect(bool holds, const std::string &what) {
   if (!holds) throw CheckFailed(what);
 }
 
+/// Throws `CheckFailed` with `what` and both numbers when they differ.
+void expectCount(long counted, long expected, const std::string &what) {
+  expect(counted == expected, fmt::format("{}: {} instead of {}", what, counted, expected));
+}
+
 /// A host that counts what it is asked, and misbehaves as told.
 class ProbeHost final : public HostCallback {
 public:
@@ -98,7 +103,7 @@ void callAndFollow(Probe &probe, Panel &panel, const script::PanelCall &call) {
   expect(
       call.result.empty() || result == call.result,
       fmt::format("{} {} answers {}, not {}", panel.className(), call.name, result, call.result));
-  expect(probe.trace.depth() == 0, fmt::format("{} {} leaves the trace at depth {}",
+  expect(probe.trace.depth() == 0, fmt::format("{} {} leaves the trace at depth {}, not 0",
                                                panel.className(), call.name, probe.trace.depth()));
 }
 
@@ -158,7 +163,7 @@ constexpr Check kChecks[] = {
          const PanelList *list = probe.extension->ask(type);
          expect(list && list->empty(), "another type yields something else than an empty list");
        }
-       expect(probe.host->ppdFileCalls == 0, "another type looks at the PPD");
+       expectCount(probe.host->ppdFileCalls, 0, "another type looks at the PPD; looks");
      }},
     {"plugin.no-host", "without a host object there are no panels",
      [](const Subject &subject) {
@@ -171,7 +176,7 @@ constexpr Check kChecks[] = {
      [](const Subject &subject) {
        Probe probe(subject, subject.emptyPpd);
        expect(probe.ask() == nullptr, "there is a list of panels");
-       expect(probe.host.use_count() == 2, "a refused panel keeps the host");
+       expectCount(probe.host.use_count(), 2, "a refused panel keeps the host; its owners");
      }},
     {"plugin.asked-twice", "the panels of an earlier list stay usable",
      [](const Subject &subject) {
@@ -185,20 +190,24 @@ constexpr Check kChecks[] = {
        Probe probe(subject);
        const auto count = static_cast<long>(probe.panels().size());
        // The probe and the extension hold it too.
-       expect(probe.host.use_count() == 2 + count, "a panel does not hold the host exactly once");
+       expectCount(probe.host.use_count(), 2 + count,
+                   "a panel does not hold the host exactly once; its owners");
        for (const auto &panel : *probe.ask()) show(*panel);
        probe.extension.reset();
        // The panels of the first of two lists are kept for good.
-       expect(probe.host.use_count() == 1 + count, "the host is not let go exactly once");
+       expectCount(probe.host.use_count(), 1 + count,
+                   "the host is not let go exactly once; its owners");
      }},
     {"plugin.bundle-kept", "a panel holds the bundle once, and for good",
      [](const Subject &subject) {
        Probe probe(subject);
        const long before = probe.bundleCount();
        const auto count = static_cast<long>(probe.panels().size());
-       expect(probe.bundleCount() == before + count, "a panel does not hold the bundle once");
+       expectCount(probe.bundleCount(), before + count,
+                   "a panel does not hold the bundle once; its owners");
        probe.extension.reset();
-       expect(probe.bundleCount() == before - 1 + count, "a panel lets the bundle go");
+       expectCount(probe.bundleCount(), before - 1 + count,
+                   "a panel lets the bundle go; its owners");
      }},
     {"panel.kinds-differ", "every panel has a kind of its own",
      [](const Subject &subject) {
@@ -229,7 +238,8 @@ constexpr Check kChecks[] = {
          probe.host->requests = 0;
          panel->shouldHide();
          panel->shouldPrint();
-         expect(probe.host->requests == 0, "a panel that was never shown saves on hiding");
+         expectCount(probe.host->requests, 0,
+                     "a panel that was never shown saves on hiding; requests");
          callAll(probe, *panel);
        }
      }},
@@ -269,7 +279,7 @@ constexpr Check kChecks[] = {
          callAll(probe, *panel);
        }
        expectWorked(worked);
-       expect(probe.host->requests == 0, "a panel asks a host that answers nothing");
+       expectCount(probe.host->requests, 0, "a panel asks a host that answers nothing; requests");
      }},
     {"host.refuses-all", "after a refused pick, a pop-up shows what is marked",
      [](const Subject &subject) {

@@ -1,6 +1,7 @@
 #include "dialog/ModuleLoader.h"
 
 #include <dlfcn.h>
+#include <stdlib.h>
 
 #include <QCoreApplication>
 #include <QFile>
@@ -29,7 +30,9 @@ QString ownFolder() {
 }
 
 QString usualModule() {
-  if (QString named = qEnvironmentVariable("KWOPDE_MODULE"); !named.isEmpty()) return named;
+  // Not where the process has rights that its caller has not.
+  if (const char *named = secure_getenv("KWOPDE_MODULE"); named && *named)
+    return QFile::decodeName(named);
   const QString beside = QCoreApplication::applicationDirPath() + KWOPDE_MODULE_FILE;
   return QFile::exists(beside) ? beside : ownFolder() + KWOPDE_MODULE_FOLDER KWOPDE_MODULE_FILE;
 }
@@ -37,7 +40,8 @@ QString usualModule() {
 }  // namespace
 
 PlugInModule &loadModule(const QString &file) {
-  const QString path = file.isEmpty() ? usualModule() : QFileInfo(file).absoluteFilePath();
+  // Qt would look for a relative name in folders of its own.
+  const QString path = QFileInfo(file.isEmpty() ? usualModule() : file).absoluteFilePath();
   const auto fail = [&](const QString &why) {
     return host::Error(QString("%1: %2").arg(path, why).toStdString());
   };

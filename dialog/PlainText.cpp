@@ -4,6 +4,10 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QtDebug>
+#include <string>
+
+#include "platform/Escaped.h"
 
 namespace kwopde::dialog {
 
@@ -13,6 +17,16 @@ QLabel *plainLabel(const QString &text) {
   label->setAlignment((QGuiApplication::isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft) |
                       Qt::AlignAbsolute | Qt::AlignVCenter);
   return label;
+}
+
+void showPlainly(QWidget &window) {
+  for (QLabel *label : window.findChildren<QLabel *>()) label->setTextFormat(Qt::PlainText);
+}
+
+void log(const char *text) {
+  std::string line;
+  appendEscaped(line, text);
+  qWarning("kwopde: %s", line.c_str());
 }
 
 void warn(QWidget *window, const QString &text) {

@@ -12,8 +12,14 @@ namespace kwopde::dialog {
 /// goes by that of the text.
 QLabel *plainLabel(const QString &text);
 
+/// Lets every label in `window` show its text as it is, also those that Qt made.
+void showPlainly(QWidget &window);
+
 /// Tells the person at `window`, and waits until that is read.
 void warn(QWidget *window, const QString &text);
+
+/// Tells the application's log, on one line.
+void log(const char *text);
 
 /// Asks the person at `window`. Returns whether they chose `verb`.
 bool confirm(QWidget *window, const QString &question, const QString &verb);

@@ -3,7 +3,6 @@
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QEvent>
-#include <QLabel>
 #include <QPrinter>
 #include <QPushButton>
 #include <QTabBar>
@@ -12,6 +11,7 @@
 
 #include "dialog/AdvancedOptions.h"
 #include "dialog/PageTabs.h"
+#include "dialog/PlainText.h"
 #include "dialog/PrinterOptions.h"
 #include "host/Error.h"
 #include "queue/PrintQueue.h"
@@ -29,8 +29,9 @@ void expandOptions(QPrintDialog &dialog) {
 
 PrintDialogPanels::PrintDialogPanels(PlugInModule &module, QPrintDialog &dialog)
     : QObject(&dialog), module_(module), dialog_(dialog) {
-  // Its labels show what the server says of a printer.
-  for (QLabel *label : dialog.findChildren<QLabel *>()) label->setTextFormat(Qt::PlainText);
+  // Its labels show what the server says of a printer, and its Properties what the PPD says.
+  showPlainly(dialog);
+  dialog.installEventFilter(this);
   // The dialog tells nobody which printer is chosen, but its combo box does.
   if (auto *printers = dialog.findChild<QComboBox *>("printers"))
     connect(printers, &QComboBox::currentTextChanged, this, &PrintDialogPanels::showPanelsOf);
@@ -57,6 +58,10 @@ bool PrintDialogPanels::eventFilter(QObject *watched, QEvent *event) {
   if (auto *print = buttons ? buttons->button(QDialogButtonBox::Ok) : nullptr;
       print && event->type() == QEvent::LanguageChange)
     QTimer::singleShot(0, print, [print] { print->setText(QPrintDialog::tr("&Print")); });
+  if (event->type() == QEvent::ChildPolished) {
+    auto *child = static_cast<QChildEvent *>(event)->child();
+    if (child->inherits("QPrintPropertiesDialog")) showPlainly(*static_cast<QWidget *>(child));
+  }
   return QObject::eventFilter(watched, event);
 }
 
@@ -79,6 +84,7 @@ PrintDialogPanels::Printer *PrintDialogPanels::open(const QString &printer) {
 
 void PrintDialogPanels::showPanelsOf(const QString &printer) {
   closePages();
+  chosen_ = printer;
   printer_ = open(printer);
   if (printer_ && printer_->session)
     pages_ = std::make_unique<PanelPages>(module_, printer_->session);
@@ -128,6 +134,37 @@ bool PrintDialogPanels::settle() {
   const bool asShown = pages_->print();
   learnFromQt();
   return asShown;
+}
+
+QString PrintDialogPanels::followPpd() {
+  if (!hasPanels()) return {};
+  const host::PpdSession &session = *printer_->session;
+  const QString queue = chosen_.section('/', 0, 0);
+  try {
+    if (!host::PrintQueue::hasOtherPpd(queue.toStdString(), session)) return {};
+  } catch (const host::Error &) {
+    return {};  // whoever sends the job is told
+  }
+  // Later: this may be called from an event of the pages.
+  const auto show = [this, printer = chosen_, set = session.settledChoices()] {
+    showNewPpd(printer, set);
+  };
+  QMetaObject::invokeMethod(this, show, Qt::QueuedConnection);
+  return tr("The printer %1 has got another PPD on its server since this dialog read it.")
+      .arg(queue);
+}
+
+void PrintDialogPanels::showNewPpd(const QString &printer,
+                                   const std::vector<host::PpdSession::Settled> &set) {
+  if (printer != chosen_) return;
+  closePages();
+  printer_ = nullptr;
+  printers_.erase(printer);
+  showPanelsOf(printer);
+  if (!hasPanels()) return;
+  for (const auto &[key, choice, isDefault] : set)
+    if (!isDefault) printer_->session->mark(key, choice);
+  pages_->showMarks();
 }
 
 QStringList PrintDialogPanels::refusals() const {

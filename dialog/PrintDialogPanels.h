@@ -33,6 +33,11 @@ public:
   /// called last; the page that it is on is then in front.
   bool settle();
 
+  /// Asks the server whether the chosen printer has another PPD than the one that the panels show.
+  /// Returns a sentence that says so, and lets the panels show that one soon, with what is set as
+  /// far as it has that; else an empty one, also when the server does not answer.
+  QString followPpd();
+
   /// Returns what was asked for and refused, a sentence each.
   QStringList refusals() const;
 
@@ -50,7 +55,8 @@ public:
   /// application that paints on it. What Qt has in hand itself (paper, sides) stays Qt's.
   void handOver();
 
-  /// Keeps the text of the button that prints when a language is loaded: Qt's dialog makes it "OK".
+  /// Keeps the text of the button that prints when a language is loaded, which Qt's dialog makes
+  /// "OK", and shows Qt's Properties without markup.
   bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
@@ -63,6 +69,7 @@ private:
   Printer *open(const QString &printer);
   void showPanelsOf(const QString &printer);
   void switchTo(const QString &printer);
+  void showNewPpd(const QString &printer, const std::vector<host::PpdSession::Settled> &set);
   void closePages();
   QDialog *properties() const;
   template <class Visit>
@@ -78,6 +85,7 @@ private:
   QPrintDialog &dialog_;
   std::map<QString, Printer> printers_;  // by name, with the instance
   Printer *printer_ = nullptr;           // the chosen one; null when it is no queue
+  QString chosen_;                       // its name, with the instance
   std::unique_ptr<PanelPages> pages_;
   std::unique_ptr<PresetRow> presets_;
   QPushButton *help_ = nullptr;  // the dialog's

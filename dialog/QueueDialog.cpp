@@ -10,6 +10,7 @@
 #include <QRadioButton>
 #include <QScopedValueRollback>
 
+#include "dialog/PlainText.h"
 #include "dialog/PrinterOptions.h"
 #include "host/Error.h"
 #include "queue/EndingSignals.h"
@@ -70,7 +71,7 @@ void QueueDialog::done(int result) {
   if (isSending_) return;  // events run meanwhile: a second click, or Return once more
   if (result == Accepted) {
     const QScopedValueRollback<bool> sending(isSending_, true);
-    if (!panels_.settle() || !isAllRight()) return;
+    if (!panels_.settle() || !hasSamePpd() || !isAllRight()) return;
     if (!documents_.empty()) switch (sendDocuments()) {
         case Outcome::sent:
           break;
@@ -81,6 +82,17 @@ void QueueDialog::done(int result) {
       }
   }
   QPrintDialog::done(result);
+}
+
+bool QueueDialog::hasSamePpd() {
+  QString replaced = panels_.followPpd();
+  if (replaced.isEmpty()) return true;
+  replaced += ' ' + tr("Its settings are shown anew: look at them, and print again.");
+  if (unattended_)
+    problem_ = replaced;
+  else
+    warn(this, replaced);
+  return false;
 }
 
 bool QueueDialog::isAllRight() {

@@ -44,6 +44,7 @@ public:
 
 private:
   host::JobOptions jobOptions() const;
+  bool hasSamePpd();
   bool isAllRight();
 
   /// `failed`: not sent, or cancelled, and the dialog stays; `ended`: a signal ended it.

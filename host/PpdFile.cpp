@@ -1,13 +1,19 @@
 #include "host/PpdFile.h"
 
+#include <cups/file.h>
 #include <fmt/format.h>
 #include <unistd.h>
 #include <utf8.h>
 
+#include <algorithm>
+#include <array>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
+#include <functional>
 #include <iterator>
+#include <memory>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -63,6 +69,56 @@ void localize(ppd_file_t &ppd) {
     choice->text[text.copy(choice->text, PPD_MAX_TEXT - 1)] = 0;
 }
 
+/// Goes back to the beginning of `file`. Throws `Error`.
+void rewind(std::FILE *file, const std::string &name) {
+  if (std::fseek(file, 0, SEEK_SET) != 0 || lseek(fileno(file), 0, SEEK_SET) != 0)
+    throw Error(fmt::format("{}: {}", name, std::strerror(errno)));
+}
+
+/// Returns all of a PPD, packed or not. Throws `Error` for more than the most, to which a small
+/// packed one can grow.
+std::string unpacked(std::FILE *file, const std::string &name) {
+  rewind(file, name);
+  const std::unique_ptr<cups_file_t, decltype(&cupsFileClose)> source(
+      cupsFileOpenFd(dup(fileno(file)), "r"), cupsFileClose);
+  std::string text;
+  std::array<char, 16384> block;
+  ssize_t size = 0;
+  while (source && (size = cupsFileRead(source.get(), block.data(), block.size())) > 0) {
+    text.append(block.data(), static_cast<std::size_t>(size));
+    if (text.size() > kMostBytes)
+      throw Error(fmt::format("{}: has more than {} MB", name, kMostBytes >> 20));
+  }
+  return text;
+}
+
+/// The CUPS library compares a PPD's options with its lines, and the choices of an option with each
+/// other. So many comparisons take it some seconds.
+constexpr std::size_t kMostComparisons = 500'000'000;
+
+/// Throws `Error` for a PPD that the library would not be done with for minutes.
+void expectFewOptions(std::string_view text, const std::string &name) {
+  std::size_t options = 0;
+  std::size_t lines = 0;
+  std::size_t choices = 0;  // of the option that a line belongs to
+  std::size_t ofChoices = 0;
+  bool isInOption = false;
+  for (std::size_t at = 0; at < text.size(); ++lines) {
+    const auto end = std::min(text.find_first_of("\r\n", at), text.size());
+    const std::string_view line = text.substr(at, end - at);
+    at = end + 1;
+    const bool begins = line.starts_with("*OpenUI") || line.starts_with("*JCLOpenUI");
+    const bool ends = line.starts_with("*CloseUI") || line.starts_with("*JCLCloseUI");
+    isInOption = begins || (isInOption && !ends);
+    options += begins ? 1 : 0;
+    choices = isInOption && !begins ? choices + 1 : 0;
+    ofChoices += choices;
+  }
+  if (options * lines + ofChoices > kMostComparisons)
+    throw Error(fmt::format("{}: has too many options and choices: {} lines, {} options", name,
+                            lines, options));
+}
+
 }  // namespace
 
 PpdFile PpdFile::open(const std::string &path) {
@@ -77,8 +133,8 @@ PpdFile PpdFile::read(std::FILE *file, const std::string &name) {
 }
 
 PpdFile PpdFile::readAsWritten(std::FILE *file, const std::string &name) {
-  if (std::fseek(file, 0, SEEK_SET) != 0)
-    throw Error(fmt::format("{}: {}", name, std::strerror(errno)));
+  const std::size_t fingerprint = fingerprintOf(file, name);
+  rewind(file, name);
   ppd_file_t *const ppd = ppdOpenFd(dup(fileno(file)));  // which closes what it is given
   if (!ppd) {
     int line = 0;
@@ -86,7 +142,13 @@ PpdFile PpdFile::readAsWritten(std::FILE *file, const std::string &name) {
     throw Error(fmt::format("{}:{}: {}", name, line, ppdErrorString(status)));
   }
   ppdMarkDefaults(ppd);
-  return PpdFile(ppd);
+  return {ppd, fingerprint};
+}
+
+std::size_t PpdFile::fingerprintOf(std::FILE *file, const std::string &name) {
+  const std::string text = unpacked(file, name);
+  expectFewOptions(text, name);
+  return std::hash<std::string>()(text);
 }
 
 std::string PpdFile::nickname() const {

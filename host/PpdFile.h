@@ -15,7 +15,8 @@ public:
   /// Opens the PPD at `path`, a file, a pipe or "-" for standard input. Puts its texts into the
   /// user's language, trims those that a field of the records has cut in the middle of a character,
   /// shows U+FFFD for bytes that are no text, and marks the defaults. Throws `Error` with
-  /// the file, the line and the CUPS library's reason when it cannot be read.
+  /// the file, the line and the CUPS library's reason when it cannot be read, or is
+  /// larger than `fingerprintOf` takes.
   static PpdFile open(const std::string &path);
 
   /// Reads it the same way from the beginning of `file`, which stays the caller's. Messages call it
@@ -27,6 +28,14 @@ public:
 
   /// Owned by this object.
   ppd_file_t *get() const { return ppd_.get(); }
+
+  /// Reads all of a PPD, packed or not, and returns a number that tells it from others. Throws
+  /// `Error` when it has more than 32 MB unpacked, or so many options that reading it would take
+  /// minutes.
+  static std::size_t fingerprintOf(std::FILE *file, const std::string &name);
+
+  /// Returns the number of the PPD that was read.
+  std::size_t fingerprint() const { return fingerprint_; }
 
   /// Returns the printer's name for people.
   std::string nickname() const;
@@ -48,9 +57,10 @@ private:
     void operator()(ppd_file_t *ppd) const { ppdClose(ppd); }
   };
 
-  explicit PpdFile(ppd_file_t *ppd) : ppd_(ppd) {}
+  PpdFile(ppd_file_t *ppd, std::size_t fingerprint) : ppd_(ppd), fingerprint_(fingerprint) {}
 
   std::unique_ptr<ppd_file_t, Close> ppd_;
+  std::size_t fingerprint_;
 };
 
 }  // namespace kwopde::host

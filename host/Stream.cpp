@@ -18,8 +18,6 @@ namespace kwopde::host {
 
 namespace {
 
-constexpr std::size_t kMostBytes = 32 << 20;
-
 Error failure(const std::string &name) {
   return Error(fmt::format("{}: {}", name, std::strerror(errno)));
 }

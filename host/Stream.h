@@ -1,11 +1,15 @@
 // Files as the CUPS library and the C library read them.
 #pragma once
 
+#include <cstddef>
 #include <cstdio>
 #include <memory>
 #include <string>
 
 namespace kwopde::host {
+
+/// How many bytes a PPD, or an answer of a server, has at most; of a packed PPD, unpacked.
+inline constexpr std::size_t kMostBytes = 32 << 20;
 
 struct CloseStream {
   void operator()(std::FILE *stream) const { std::fclose(stream); }

@@ -100,6 +100,7 @@ std::string QtTextField::stringValue() const {
 void QtTextField::setStringValue(std::string_view text) {
   if (!widget_) return;
   QString shown = fromUtf8(text);
+  if (auto *label = qobject_cast<QLabel *>(widget_)) label->setTextFormat(Qt::PlainText);
   if (showsMnemonic(*widget_)) shown.replace('&', "&&");
   if (qobject_cast<QLineEdit *>(widget_))
     shown = peoplesText(shown, widget_->property("decimals").toInt());

@@ -1,6 +1,7 @@
 #include "queue/CupsConnection.h"
 
 #include <fmt/format.h>
+#include <netdb.h>
 #include <strings.h>
 #include <unistd.h>
 
@@ -10,7 +11,9 @@
 #include <charconv>
 #include <cstdlib>
 #include <cstring>
+#include <future>
 #include <string_view>
+#include <thread>
 #include <utility>
 
 #include "host/Error.h"
@@ -25,7 +28,6 @@ using namespace std::chrono_literals;
 constexpr std::chrono::milliseconds kConnectTry = 1s;
 constexpr double kPollSeconds = 0.05;
 constexpr auto kLastWait = 400ms;
-constexpr std::size_t kMostBytes = 32 << 20;
 constexpr int kMostRepeats = 3;
 
 int answerSeconds() {
@@ -49,11 +51,13 @@ std::string serverName() {
 CupsConnection::CupsConnection(std::function<bool()> goesOn)
     : goesOn_(std::move(goesOn)), seconds_(answerSeconds()) {
   begin();
+  const bool isKnown = hasAddress();
   while (!http_) {
     // Again and again, since a server that is busy may not have heard the first time.
     const auto start = steady_clock::now();
-    http_.reset(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
-                             static_cast<int>(kConnectTry.count()), nullptr));
+    if (isKnown)
+      http_.reset(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
+                               static_cast<int>(kConnectTry.count()), nullptr));
     const bool isRefused = !http_ && steady_clock::now() - start < kConnectTry;
     if (isRefused || (!http_ && !mayWait()))
       throw JobError(
@@ -63,6 +67,25 @@ CupsConnection::CupsConnection(std::function<bool()> goesOn)
     return static_cast<CupsConnection *>(self)->mayWait() ? 1 : 0;
   };
   httpSetTimeout(http_.get(), kPollSeconds, onWait, this);
+}
+
+/// Returns whether the server's name was found in time.
+bool CupsConnection::hasAddress() {
+  const std::string server = cupsServer();
+  if (server.starts_with('/')) return true;
+  // The resolver cannot be interrupted, so it may outlive this. What it finds is found again.
+  std::packaged_task<bool()> resolve([server] {
+    addrinfo *found = nullptr;
+    const bool isFound = getaddrinfo(server.c_str(), nullptr, nullptr, &found) == 0;
+    if (isFound) freeaddrinfo(found);
+    return isFound;
+  });
+  auto answer = resolve.get_future();
+  std::thread(std::move(resolve)).detach();
+  const std::chrono::duration<double> poll(kPollSeconds);
+  while (answer.wait_for(poll) != std::future_status::ready)
+    if (!mayWait()) return false;
+  return answer.get();
 }
 
 void CupsConnection::begin() {
@@ -185,11 +208,13 @@ Stream CupsConnection::fetch(const std::string &resource) {
   Stream file = makeMemoryFile(resource);
   std::array<char, 16384> block;
   ssize_t size = 0;
+  bool isKept = true;
   while (httpGetState(http) != HTTP_STATE_WAITING && (size = read(block.data(), block.size())) > 0)
-    std::fwrite(block.data(), 1, static_cast<std::size_t>(size), file.get());
+    isKept &= std::fwrite(block.data(), 1, static_cast<std::size_t>(size), file.get()) ==
+              static_cast<std::size_t>(size);
   // The library takes an answer for done when all that the server announced has come.
   if (httpGetState(http) != HTTP_STATE_WAITING) fail();
-  if (std::fflush(file.get()) != 0 || std::fseek(file.get(), 0, SEEK_SET) != 0)
+  if (!isKept || std::fflush(file.get()) != 0 || std::fseek(file.get(), 0, SEEK_SET) != 0)
     throw Error(fmt::format("no memory for {}: {}", resource, std::strerror(errno)));
   return file;
 }
@@ -205,6 +230,15 @@ void CupsConnection::fail() const {
   else if (status_ >= HTTP_STATUS_BAD_REQUEST)
     what = fmt::format("answered: {}", httpStatus(status_));
   throw JobError(fmt::format("the CUPS server at {} {}", serverName(), what));
+}
+
+NoOtherConnection::NoOtherConnection() : server_(cupsServer()), port_(ippPort()) {
+  cupsSetServer("/dev/null");
+}
+
+NoOtherConnection::~NoOtherConnection() {
+  cupsSetServer(server_.c_str());
+  ippSetPort(port_);
 }
 
 IppMessage requestAbout(const std::string &queue, ipp_op_t operation) {

@@ -21,7 +21,7 @@ using IppMessage = std::unique_ptr<ipp_t, DeleteIpp>;
 /// that has a limited number of them: keep it only while it is used.
 ///
 /// Each question, from its first byte to the last of its answer, has 15 seconds, or those of
-/// KWOPDE_TIMEOUT. An answer has 32 MB.
+/// KWOPDE_TIMEOUT. So has finding and reaching the server. An answer has 32 MB.
 class CupsConnection {
 public:
   /// Calls `goesOn` about every 50 ms while it waits; once that is false, an answer on its way has
@@ -53,6 +53,7 @@ private:
   };
 
   void begin();
+  bool hasAddress();
   bool mayWait();
   bool isInTime();
   bool reconnect();
@@ -71,6 +72,20 @@ private:
   bool expired_ = false;
   http_status_t status_ = HTTP_STATUS_NONE;
   std::unique_ptr<http_t, Close> http_;
+};
+
+/// While it lives, what the library would ask on a connection of its own, without a deadline, fails
+/// at once. For the thread that made it.
+class NoOtherConnection {
+public:
+  NoOtherConnection();
+  NoOtherConnection(const NoOtherConnection &) = delete;
+  NoOtherConnection &operator=(const NoOtherConnection &) = delete;
+  ~NoOtherConnection();
+
+private:
+  std::string server_;
+  int port_;
 };
 
 /// Returns a request about the printer `queue`, from this user.

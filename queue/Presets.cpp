@@ -57,6 +57,7 @@ class Destinations {
 public:
   /// Throws `JobError` when the server does not tell of `queue`.
   explicit Destinations(const std::string &queue) : queue_(queue) {
+    const NoOtherConnection only;
     count_ = cupsGetDests2(server_.get(), &list_);
     if (find({})) return;
     cupsFreeDests(count_, list_);
@@ -99,6 +100,7 @@ public:
   }
 
   void write() {
+    const NoOtherConnection only;
     errno = 0;
     if (cupsSetDests2(server_.get(), count_, list_) != 0)
       throw Error(fmt::format("the settings could not be saved: {}",

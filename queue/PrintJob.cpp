@@ -3,6 +3,7 @@
 #include <cups/cups.h>
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <chrono>
@@ -35,6 +36,14 @@ std::vector<Document> openDocuments(const std::vector<std::string> &paths, long 
   return documents;
 }
 
+/// Returns as much of `text` as a name on the server can have, in whole characters.
+std::string nameOf(const std::string &text) {
+  std::size_t size = std::min<std::size_t>(text.size(), 255);
+  while (size > 0 && size < text.size() && (static_cast<unsigned char>(text[size]) & 0xC0) == 0x80)
+    --size;
+  return text.substr(0, size);
+}
+
 /// Time for cancelling a job, whose sender may be waiting for it.
 constexpr auto kCancelTime = std::chrono::seconds(5);
 
@@ -45,7 +54,7 @@ public:
       : server_(server), queue_(job.queue), resource_("/printers/" + job.queue) {
     const IppMessage request = requestAbout(queue_, IPP_OP_CREATE_JOB);
     ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", nullptr,
-                 job.title.c_str());
+                 nameOf(job.title).c_str());
     CupsOptions options(job.options);
     for (const ipp_tag_t group : {IPP_TAG_OPERATION, IPP_TAG_JOB, IPP_TAG_SUBSCRIPTION})
       cupsEncodeOptions2(request.get(), options.count, options.options, group);
@@ -66,7 +75,7 @@ public:
                     const std::function<bool(std::size_t)> &progress) {
     const IppMessage request = aboutThis(IPP_OP_SEND_DOCUMENT);
     ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "document-name", nullptr,
-                 document.name.c_str());
+                 nameOf(document.name).c_str());
     ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_MIMETYPE, "document-format", nullptr,
                  CUPS_FORMAT_AUTO);
     ippAddBoolean(request.get(), IPP_TAG_OPERATION, "last-document", isLast ? 1 : 0);
@@ -181,7 +190,8 @@ std::optional<int> send(const PrintJob &job, const SendProgress &progress) {
     }
   } catch (const JobError &error) {
     if (isWanted) failWithAdvice(error.what(), serverJob ? &*serverJob : nullptr);
-  } catch (...) {
+  } catch (const std::exception &error) {
+    if (serverJob && serverJob->mayBePrinted()) failWithAdvice(error.what(), &*serverJob);
     if (serverJob) serverJob->cancel(ServerJob::Leave::record);
     throw;
   }

@@ -12,7 +12,7 @@ namespace kwopde::host {
 
 struct PrintJob {
   std::string queue;
-  std::string title;
+  std::string title;                   // of which the server gets 255 bytes at most
   std::vector<std::string> documents;  // paths, "-" for standard input; all of them are one job
   std::vector<OptionChoice> options;   // of the PPD, and job attributes such as "copies"
 };

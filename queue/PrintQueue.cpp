@@ -18,10 +18,6 @@ namespace {
 /// What the names of attributes that hold a queue's defaults end in.
 constexpr std::string_view kDefault = "-default";
 
-Stream fetchPpd(CupsConnection &server, const std::string &queue) {
-  return server.fetch("/printers/" + queue + ".ppd");
-}
-
 /// The first printer of a class of printers; empty when `queue` is no class.
 std::string firstMember(CupsConnection &server, const std::string &queue) {
   const IppMessage answer = server.ask(requestAbout(queue, IPP_OP_GET_PRINTER_ATTRIBUTES), "/");
@@ -29,12 +25,44 @@ std::string firstMember(CupsConnection &server, const std::string &queue) {
   return members ? ippGetString(members, 0, nullptr) : std::string();
 }
 
-/// Throws `JobError` when `server` does not answer.
-void expectAnswer(CupsConnection &server) {
-  const IppMessage question(ippNewRequest(IPP_OP_CUPS_GET_DEFAULT));
+std::string nameOfPpd(const std::string &queue) {
+  return fmt::format("the PPD of the printer {}", queue);
+}
+
+/// Fetches the PPD of a printer, or of the first one of a class; null when there is none. Throws
+/// `JobError` when it did not come whole.
+Stream fetchPpd(const std::string &queue) {
+  const auto fetch = [](CupsConnection &server, const std::string &printer) {
+    return server.fetch("/printers/" + printer + ".ppd");
+  };
+  try {
+    CupsConnection server;
+    Stream ppd = fetch(server, queue);
+    if (!ppd)
+      if (const std::string member = firstMember(server, queue); !member.empty())
+        ppd = fetch(server, member);
+    return ppd;
+  } catch (const JobError &error) {
+    throw JobError(fmt::format("{} did not come: {}", nameOfPpd(queue), error.what()));
+  }
+}
+
+/// How often the library is asked again for a printer that is there.
+constexpr int kMostRepeats = 5;
+
+/// Returns whether the server has the printer, or with an empty name a default one. Throws
+/// `JobError` when it does not answer.
+bool hasPrinter(CupsConnection &server, const std::string &queue) {
+  const IppMessage question = queue.empty() ? IppMessage(ippNewRequest(IPP_OP_CUPS_GET_DEFAULT))
+                                            : requestAbout(queue, IPP_OP_GET_PRINTER_ATTRIBUTES);
   ippAddString(question.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
                "printer-name");
-  server.ask(question, "/");
+  return faultIn(server.ask(question, "/")).empty();
+}
+
+/// Throws `JobError` when `server` does not answer.
+void expectAnswer(CupsConnection &server) {
+  hasPrinter(server, {});
 }
 
 }  // namespace
@@ -46,9 +74,19 @@ PrintQueue::PrintQueue(const std::string &name) {
   const auto slash = std::min(name.find('/'), name.size());
   const std::string queue = name.substr(0, slash);
   const std::string instance = name.substr(std::min(slash + 1, name.size()));
-  cups_dest_t *const dest = cupsGetNamedDest(server.get(), queue.empty() ? nullptr : queue.c_str(),
-                                             instance.empty() ? nullptr : instance.c_str());
-  if (!dest) expectAnswer(server);
+  const auto find = [&] {
+    const NoOtherConnection only;
+    return cupsGetNamedDest(server.get(), queue.empty() ? nullptr : queue.c_str(),
+                            instance.empty() ? nullptr : instance.c_str());
+  };
+  cups_dest_t *dest = find();
+  // To the library, a connection that was lost is a printer that is not there.
+  for (int repeats = 0; !dest && hasPrinter(server, queue); ++repeats) {
+    if (repeats == kMostRepeats && queue.empty()) break;
+    if (repeats == kMostRepeats)
+      throw JobError(fmt::format("the CUPS server did not tell of the printer {}", queue));
+    dest = find();
+  }
   if (!dest)
     throw Error(name.empty() ? "there is no default printer: name one with --printer, or a PPD "
                                "file with --ppd"
@@ -63,6 +101,7 @@ PrintQueue::PrintQueue(const std::string &name) {
 std::vector<std::string> PrintQueue::names(std::string_view models) {
   CupsConnection server;
   expectAnswer(server);
+  const NoOtherConnection only;
   cups_dest_t *list = nullptr;
   const int count = cupsGetDests2(server.get(), &list);
   std::set<std::string> names;
@@ -92,26 +131,21 @@ std::vector<OptionChoice> PrintQueue::defaults() const {
 }
 
 std::shared_ptr<PpdSession> PrintQueue::openSession() const {
-  Stream ppd;
-  try {
-    CupsConnection server;
-    ppd = fetchPpd(server, name_);
-    if (!ppd)
-      if (const std::string member = firstMember(server, name_); !member.empty())
-        ppd = fetchPpd(server, member);
-  } catch (const JobError &error) {
-    throw JobError(fmt::format("the PPD of the printer {} did not come: {}", name_, error.what()));
-  }
+  const Stream ppd = fetchPpd(name_);
   if (!ppd)
     throw Error(
         fmt::format("the printer {} has no PPD, so it has no panels: choose another, or "
                     "set it up with a PPD (lpadmin -p {} -P FILE)",
                     name_, name_));
-  auto session = std::make_shared<PpdSession>(
-      PpdFile::read(ppd.get(), fmt::format("the PPD of the printer {}", name_)));
+  auto session = std::make_shared<PpdSession>(PpdFile::read(ppd.get(), nameOfPpd(name_)));
   session->setPrinter(destination());
   session->markSaved(options_);
   return session;
+}
+
+bool PrintQueue::hasOtherPpd(const std::string &queue, const PpdSession &session) {
+  const Stream ppd = fetchPpd(queue);
+  return ppd && PpdFile::fingerprintOf(ppd.get(), nameOfPpd(queue)) != session.ppd().fingerprint();
 }
 
 }  // namespace kwopde::host

@@ -38,6 +38,10 @@ public:
   /// when the queue has no PPD, or a broken one, and `JobError` when it did not come whole.
   std::shared_ptr<PpdSession> openSession() const;
 
+  /// Returns whether `queue`, without an instance, has another PPD now than that of `session`.
+  /// Throws `JobError` when it did not come whole.
+  static bool hasOtherPpd(const std::string &queue, const PpdSession &session);
+
 private:
   std::string name_;
   std::string instance_;

@@ -1,19 +1,25 @@
 #include <fmt/format.h>
 
+#include <fcntl.h>
+#include <unistd.h>
+
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <algorithm>
+#include <cerrno>
 #include <cstdint>
+#include <cstring>
 #include <fstream>
 #include <memory>
-#include <nlohmann/json.hpp>
 #include <string>
 #include <vector>
 
 #include "app/Files.h"
+#include "app/Json.h"
 #include "app/Output.h"
 #include "app/qt/QtCommands.h"
 #include "check/RandomSession.h"
@@ -77,8 +83,37 @@ public:
   const check::Subject subject;
 };
 
-std::string scriptPath(const std::string &folder, std::uint64_t seed) {
-  return fmt::format("{}/kwopde-validate-{}.script", folder, seed);
+/// What the names of the scripts of sessions are.
+constexpr const char *kScripts = "kwopde-validate-*.script";
+
+/// The script of a session, in a new file. Files and links that are there already are left alone.
+class SessionScript {
+public:
+  /// Throws `Error` when no file can be made in `folder`.
+  SessionScript(const std::string &folder, std::uint64_t seed) {
+    int number = -1;
+    for (int again = 1; number < 0; ++again) {
+      path_ = fmt::format("{}/kwopde-validate-{}{}.script", folder, seed,
+                          again == 1 ? "" : fmt::format("-{}", again));
+      number = open(path_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666);
+      if (number < 0 && errno != EEXIST)
+        throw host::Error(fmt::format("{}: {}", path_, std::strerror(errno)));
+    }
+    stream_.open(fmt::format("/dev/fd/{}", number));
+    close(number);
+  }
+
+  std::ostream &stream() { return stream_; }
+
+  void remove() const { unlink(path_.c_str()); }
+
+private:
+  std::string path_;
+  std::ofstream stream_;
+};
+
+QStringList scriptsIn(const std::string &folder) {
+  return QDir(QString::fromStdString(folder)).entryList({kScripts});
 }
 
 Result judge(std::string name, std::string promise, const std::function<void(Result &)> &run) {
@@ -101,13 +136,11 @@ Result runSessions(const ValidateOptions &options, const check::Subject &subject
     const check::Vocabulary vocabulary = check::vocabularyOf(subject);
     for (int i = 0; i < options.sessions; ++i) {
       const std::uint64_t seed = options.seed + static_cast<unsigned>(i);
-      const std::string path = scriptPath(options.keep, seed);
-      {
-        // Written before it is run, so that it is there after a crash.
-        std::ofstream log(path);
-        result.calls += check::runSession(subject, check::randomScript(vocabulary, seed), log);
-      }
-      QFile::remove(QString::fromStdString(path));
+      // Written before it is run, so that it is there after a crash.
+      SessionScript script(options.keep, seed);
+      result.calls +=
+          check::runSession(subject, check::randomScript(vocabulary, seed), script.stream());
+      script.remove();
     }
   });
 }
@@ -185,9 +218,10 @@ std::vector<Result> runAllApart(ValidateOptions options) {
     if (options.only.empty() || options.only == check.name)
       results.push_back(runApart(options, std::string(check.name), std::string(check.promise)));
   if (options.only.empty() || options.only == kSessions) {
+    const QStringList before = scriptsIn(options.keep);
     Result sessions = runSessionsApart(options);
-    const QStringList kept =
-        QDir(QString::fromStdString(options.keep)).entryList({"kwopde-validate-*.script"});
+    QStringList kept = scriptsIn(options.keep);
+    kept.removeIf([&](const QString &name) { return before.contains(name); });
     if (sessions.outcome == Result::Outcome::fail && !kept.isEmpty()) {
       folder.setAutoRemove(false);
       sessions.what += fmt::format(
@@ -203,7 +237,7 @@ std::vector<Result> runAllApart(ValidateOptions options) {
 
 void print(const std::vector<Result> &results, bool json) {
   if (json) {
-    writeResult(nlohmann::json(results).dump(2) + '\n');
+    writeJson(results, 2);
     return;
   }
   for (const Result &result : results) switch (result.outcome) {
@@ -242,7 +276,7 @@ int runValidateCommand(const ValidateOptions &given) {
     }
     return kDone;
   }
-  if (options.inProcess && options.keep.empty()) options.keep = ".";
+  if (options.inProcess && options.keep.empty()) options.keep = {'.'};
   const auto results = options.inProcess ? runHere(options) : runAllApart(options);
   if (results.empty())
     throw host::Error(fmt::format("there is no check {}: --list names them", options.only));

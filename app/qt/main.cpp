@@ -49,10 +49,11 @@ int main(int argc, char **argv) {
     qt::QtUserInput user;
     return runScript(options, dialog::loadModule(), user);
   };
-  return runCommandLine(argc, argv,
-                        {dialogCommand(inApplication(runDialogCommand, shows)),
-                         portalDialogCommand(inApplication(runPortalDialogCommand, always)),
-                         settingsCommand(inApplication(runSettingsCommand, shows)),
-                         runCommand(inApplication(runScriptInQt, never)),
-                         validateCommand(inApplication(runValidateCommand, never))});
+  return runCommandLine(argc, argv, [&] {
+    return std::vector<Command>{dialogCommand(inApplication(runDialogCommand, shows)),
+                                portalDialogCommand(inApplication(runPortalDialogCommand, always)),
+                                settingsCommand(inApplication(runSettingsCommand, shows)),
+                                runCommand(inApplication(runScriptInQt, never)),
+                                validateCommand(inApplication(runValidateCommand, never))};
+  });
 }

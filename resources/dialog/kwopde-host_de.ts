@@ -198,6 +198,13 @@
     </message>
 </context>
 <context>
+    <name>kwopde::dialog::PrintDialogPanels</name>
+    <message>
+        <source>The printer %1 has got another PPD on its server since this dialog read it.</source>
+        <translation>Der Drucker %1 hat auf seinem Server eine andere PPD bekommen, seit dieser Dialog sie gelesen hat.</translation>
+    </message>
+</context>
+<context>
     <name>kwopde::dialog::QueueDialog</name>
     <message>
         <source>Print</source>
@@ -226,6 +233,10 @@
     <message>
         <source>Printing failed</source>
         <translation>Drucken fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>Its settings are shown anew: look at them, and print again.</source>
+        <translation>Seine Einstellungen werden neu gezeigt: Sehen Sie sie an und drucken Sie erneut.</translation>
     </message>
 </context>
 <context>

@@ -12,6 +12,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMessageBox>
 #include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
@@ -381,6 +382,31 @@ TEST_F(DialogJobs, ShareWhatQtsPropertiesHold) {
   QTest::keyClick(&widget<QComboBox>(dialog, "printFinishPopUp"), Qt::Key_End);
   EXPECT_THAT(widget<QLabel>(dialog, "notice").text().toStdString(),
               testing::HasSubstr("together with Media Size: 8x10"));
+}
+
+TEST_F(DialogJobs, AreNotSentWithTheOptionsOfAPpdThatWasReplaced) {
+  given("", "");
+  printer_.setPrinterName("jobs");
+  dialog::QueueDialog dialog(dialog::loadModule(), printer_, {document_});
+  show(dialog, 2);
+  QTest::keyClick(&widget<QComboBox>(dialog, "printQualityPopUp"), Qt::Key_Home);
+  const std::string replaced = folder_.write(
+      "replaced.ppd", std::regex_replace(contents(ppd_), std::regex("/Matte:"), "/Velvet:"));
+  run("lpadmin -p jobs -P " + written(replaced));
+  QString told;
+  QTimer::singleShot(100, &dialog, [&] {
+    auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+    told = box->text();
+    box->button(QMessageBox::Close)->click();
+  });
+  dialog.accept();
+  EXPECT_TRUE(dialog.isVisible() && !dialog.jobId());
+  EXPECT_THAT(told.toStdString(), testing::HasSubstr("jobs has got another PPD"));
+  QTest::qWait(10);
+  EXPECT_GE(widget<QComboBox>(dialog, "printFinishPopUp").findText("Velvet"), 0);
+  dialog.accept();
+  ASSERT_TRUE(dialog.jobId());
+  EXPECT_THAT(carriedBy(*dialog.jobId()), Contains(Pair("printQuality", "Draft")));
 }
 
 class Presets : public DialogJobs {

@@ -93,6 +93,14 @@ TEST(Queue, JobCarriesItsOptionsAndDocuments) {
   EXPECT_EQ(contents(spooled.str() + "-002"), contents(second));
 }
 
+TEST(Queue, JobHasAsMuchOfALongTitleAsTheServerTakes) {
+  std::string title;
+  for (int i = 0; i < 40000; ++i) title += "\u00e9";
+  const auto id = host::send({"kwo-1200", title, {document("a.txt", "a")}, {}},
+                             [](auto, auto) { return true; });
+  EXPECT_EQ(attribute(*id, "job-name"), title.substr(0, 254));
+}
+
 TEST(Queue, JobThatAPersonCancelsLeavesNothingBehind) {
   const std::string large = document("large.txt", "text", 3000000);
   const int before =

@@ -53,6 +53,38 @@ TEST(PpdFile, SaysWhichFileAndLineCannotBeRead) {
               testing::MatchesRegex(".*bad.ppd:[0-9]+: .+"));
 }
 
+// What would take minutes, or a gigabyte, is not begun.
+TEST(PpdFile, IsRefusedWhenReadingItWouldCostTooMuch) {
+  const std::string packed = written("packed.ppd", "");
+  cups_file_t *file = cupsFileOpen(packed.c_str(), "w9");
+  cupsFilePuts(file, ppdText(kMediaOptions).c_str());
+  const std::string comment(200, '%');
+  const auto grow = [&](int megabytes) {
+    for (int i = 0; i < megabytes * 5000; ++i) cupsFilePrintf(file, "*%%%s\n", comment.c_str());
+  };
+  grow(1);
+  cupsFileClose(file);
+  EXPECT_EQ(whyNot(packed), "opened");
+  file = cupsFileOpen(packed.c_str(), "w9");
+  cupsFilePuts(file, ppdText(kMediaOptions).c_str());
+  grow(40);
+  cupsFileClose(file);
+  EXPECT_EQ(whyNot(packed), packed + ": has more than 32 MB");
+
+  std::string options;
+  std::string choices;
+  for (int i = 0; i < 40000; ++i) {
+    const std::string key = "key" + std::to_string(i);
+    options += option(key, key, "A", {{"A", "A"}});
+    choices += "*many " + key + ": \"\"\n";
+  }
+  EXPECT_THAT(whyNot(written("options.ppd", ppdText(options))), HasSubstr("too many options"));
+  EXPECT_THAT(whyNot(written("choices.ppd",
+                             ppdText("*OpenUI *many: PickOne\n" + choices + "*CloseUI: *many\n"))),
+              HasSubstr("too many options"));
+  EXPECT_EQ(whyNot(written("lines.ppd", ppdText(kMediaOptions + choices))), "opened");
+}
+
 TEST(PpdSession, MarksWhatIsListedAndRefusesTheRest) {
   PpdSession session(PpdFile::open(written("media.ppd", ppdText(kMediaOptions))));
   const std::string key = "pageScale";

@@ -10,12 +10,16 @@ class Proxy:
 
     `spoil` is what happens to the connection on which byte number `at` would pass, counted over all
     connections in its direction ("up" is to the server), or the text `at` for the first time: "cut",
-    "gone" (cuts this and all later ones), "stall", "drip" (ten bytes a second), "zero" (four bytes
-    after the text), or "flood" (answered by the proxy, with zeros without an end). `rate` limits every connection, in bytes a second.
+    "gone" (cuts this and all later ones), "stall", "mute" (stalls this and all later ones), "drip"
+    (ten bytes a second), "zero" (four bytes after the text), "swap" (the text becomes `by`, of the
+    same length), or "flood" (answered by the proxy, with zeros without an end). `rate` limits every
+    connection, in bytes a second.
     """
 
-    def __init__(self, spoil=None, direction="up", at=0, rate=None):
+    def __init__(self, spoil=None, direction="up", at=0, by=None, rate=None):
         self.spoil, self.direction, self.at, self.rate = spoil, direction, at, rate
+        self.by = by
+        self.kept = []
         self.spoilt = False
         self.passed = {"up": 0, "down": 0}
         self.lock = threading.Lock()
@@ -40,6 +44,9 @@ class Proxy:
                 client = self.listener.accept()[0]
                 if self.spoilt and self.spoil == "gone":
                     client.close()
+                    continue
+                if self.spoilt and self.spoil == "mute":
+                    self.kept.append(client)
                     continue
                 server = socket.create_connection(self.server)
                 for way in ((client, server, "up"), (server, client, "down")):
@@ -74,7 +81,10 @@ class Proxy:
                     room += len(self.at)
                     target.sendall(self.at + bytes(4) + data[room + 4:])
                     continue
-                if self.spoil == "stall":
+                if self.spoil == "swap":
+                    target.sendall(self.by + data[room + len(self.by):])
+                    continue
+                if self.spoil in ("stall", "mute"):
                     time.sleep(60)
                 if self.spoil == "flood":
                     source.sendall(b"HTTP/1.1 200 OK\r\nContent-Length: 99999999999\r\n\r\n")
