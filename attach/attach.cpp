@@ -13,9 +13,6 @@ namespace kwopde {
 
 namespace {
 
-/// Says that a dialog has its panels, also to another copy of this library in the same process.
-constexpr const char *kHasPanels = "kwopdeHasPanels";
-
 /// Settles the panels when the dialog goes away accepted. That is before anybody hears `accepted`,
 /// whatever the application connected to it, and however it opened the dialog.
 class Settling final : public QObject {
@@ -52,12 +49,11 @@ private:
 
 bool attachPanels(QPrintDialog *dialog, bool openOptions) {
   if (!dialog) return false;
-  if (dialog->property(kHasPanels).toBool()) return true;
+  if (dialog->property(dialog::kHasPanels).toBool()) return true;
   try {
     PlugInModule &module = dialog::loadModule();
     dialog::installTranslations();
     new Settling(*dialog, *new dialog::PrintDialogPanels(module, *dialog));  // the dialog's
-    dialog->setProperty(kHasPanels, true);
     if (openOptions) dialog::expandOptions(*dialog);
     return true;
   } catch (const host::Error &error) {

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <map>
 #include <optional>
+#include <utility>
 
 #include "host/MarkableChoice.h"
 #include "platform/Numbers.h"
@@ -59,9 +60,13 @@ public:
     return isNew ? nullptr : &place->second;
   }
 
+  bool take(double number) const {
+    return listed_.contains(number) || (limits_ && host::isWithin(*limits_, number));
+  }
+
   bool take(const std::string &keyword) const {
     const auto number = host::wholeNumber(keyword);
-    return number && (listed_.contains(*number) || (limits_ && host::isWithin(*limits_, *number)));
+    return number && take(*number);
   }
 
   bool isEmpty() const { return listed_.empty() && !limits_; }
@@ -81,8 +86,8 @@ void checkReach(const Numbers &numbers, const PanelOption &row, const Slider &sl
   int missing = 0;
   std::string example;
   for (auto n = first; n <= last; ++n) {
-    const auto keyword = keywordOf(row.kind, static_cast<double>(n) / perUnit);
-    if (!numbers.take(keyword) && missing++ == 0) example = keyword;
+    const double number = static_cast<double>(n) / perUnit;  // what its keyword reads as
+    if (!numbers.take(number) && missing++ == 0) example = keywordOf(row.kind, number);
   }
   if (missing > 0)
     findings.add({Severity::warning, row.key, lines.line(),
@@ -129,34 +134,33 @@ void checkNumbers(ppd_file_t *ppd, ppd_option_t &option, const PanelOption &row,
   if (!custom || (limits && limits->minimum > limits->maximum)) limits.reset();
   if (!limits) checkCustom(ppd, option, row, custom, lines, findings);
 
+  const auto tell = [&](const ChoiceFault &fault, std::string_view keyword, std::string detail) {
+    findings.add(fault, {row.key, keyword, lines.lineOf(keyword), std::move(detail)});
+  };
   Numbers numbers(limits);
   std::vector<std::pair<const ppd_choice_t *, double>> listed;
   for (int i = 0; i < option.num_choices; ++i) {
     const ppd_choice_t &choice = option.choices[i];
     if (&choice == custom) continue;
     const std::string_view keyword = lines.asWritten(choice.choice);
-    FaultyChoice place{row.key, keyword, lines.lineOf(keyword)};
     const auto number = host::wholeNumber(keyword);
     if (!number) {
-      place.detail = keywordSaved(row.kind, numberShown(row.kind, choice.text));
-      findings.add(kNoNumber, place);
+      tell(kNoNumber, keyword, keywordSaved(row.kind, numberShown(row.kind, choice.text)));
       continue;
     }
     listed.emplace_back(&choice, *number);
     const std::string *before = numbers.list(*number, choice.choice);
     if (!before || host::isSameKey(*before, choice.choice)) continue;  // told elsewhere
-    place.detail = *before;
-    findings.add(kSameNumber, place);
+    tell(kSameNumber, keyword, *before);
   }
   for (const auto &[choice, number] : listed) {
     if (numberShown(row.kind, choice->text) != number) continue;  // told with the texts
     const std::string saved = keywordSaved(row.kind, number);
     const bool isHundredth = std::abs(std::round(number * 100) - number * 100) < 1e-6;
-    const FaultyChoice place{row.key, choice->choice, lines.lineOf(choice->choice), saved};
     if (!numbers.take(saved))
-      findings.add(kNotSaved, place);
+      tell(kNotSaved, choice->choice, saved);
     else if (!isHundredth)
-      findings.add(kSavedAsOther, place);
+      tell(kSavedAsOther, choice->choice, saved);
   }
   if (slider && !numbers.isEmpty()) checkReach(numbers, row, *slider, lines, findings);
 }

@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include <string_view>
+#include <unordered_set>
 
 #include "host/MarkableChoice.h"
 
@@ -49,24 +50,24 @@ void checkDefault(ppd_file_t *ppd, ppd_option_t &option, const PanelOption &row,
 
 void checkKeywords(const ppd_option_t &option, const PanelOption &row,
                    const PpdLines::Option &lines, Findings &findings) {
-  KeywordSet offered;
+  std::unordered_set<const PpdLines::Choice *> offered;
   for (int i = 0; i < option.num_choices; ++i) {
     const std::string_view keyword = lines.asWritten(option.choices[i].choice);
-    FaultyChoice place{row.key, keyword, lines.lineOf(keyword)};
+    const PpdLines::Choice *const given = lines.choice(keyword);
+    FaultyChoice place{row.key, keyword, lines.lineOf(given)};
     if (keyword.starts_with('{')) findings.add(kCustomValue, place);
     if (keyword != option.choices[i].choice && row.kind == PanelOption::Kind::choice) {
       place.detail = keyword;
       findings.add(kReadAsOther, place);
     }
-    if (const auto *given = lines.choice(keyword);
-        !offered.emplace(keyword).second && given && given->lines.size() > 1) {
+    if (given && !offered.insert(given).second && given->lines.size() > 1) {
       place.detail = fmt::format("{}", given->lines[1]);
       findings.add(kTwice, place);
     }
   }
   // Of an option that is defined twice, the choices of the other one are not among these.
   for (const auto &[keyword, choice] : lines.choices)
-    if (lines.opened.size() == 1 && !offered.contains(keyword))
+    if (lines.opened.size() == 1 && !offered.contains(&choice))
       findings.add(kOutside, {row.key, keyword, choice.lines.front()});
 }
 

@@ -1,7 +1,5 @@
 #include "check/PpdLines.h"
 
-#include <strings.h>
-
 #include <algorithm>
 #include <sstream>
 
@@ -28,6 +26,7 @@ std::string_view take(std::string_view &rest, std::string_view ends) {
 
 /// Returns a text with its hexadecimal parts, "<C3A9>", as the bytes that they stand for.
 std::string decoded(std::string_view text) {
+  if (text.find_first_of("<>") == text.npos) return std::string(text);
   constexpr std::string_view kDigits = "0123456789abcdefABCDEF";
   std::string bytes;
   int half = -1;
@@ -166,8 +165,10 @@ std::vector<host::OptionChoice> membersOf(std::string_view value) {
 }  // namespace
 
 bool KeywordLess::operator()(std::string_view a, std::string_view b) const {
-  const int order = strncasecmp(a.data(), b.data(), std::min(a.size(), b.size()));
-  return order < 0 || (order == 0 && a.size() < b.size());
+  const auto inLowerCase = [](char c) { return c >= 'A' && c <= 'Z' ? c - 'A' + 'a' : c; };
+  return std::lexicographical_compare(
+      a.begin(), a.end(), b.begin(), b.end(),
+      [&](char one, char other) { return inLowerCase(one) < inLowerCase(other); });
 }
 
 std::string_view PpdLines::Option::asWritten(std::string_view keyword) const {
@@ -178,11 +179,6 @@ std::string_view PpdLines::Option::asWritten(std::string_view keyword) const {
 const PpdLines::Choice *PpdLines::Option::choice(std::string_view keyword) const {
   const auto found = choices.find(keyword);
   return found == choices.end() ? nullptr : &found->second;
-}
-
-int PpdLines::Option::lineOf(std::string_view keyword) const {
-  const Choice *found = choice(keyword);
-  return found ? found->lines.front() : line();
 }
 
 PpdLines::PpdLines(std::FILE *file, const KeywordSet &keys,

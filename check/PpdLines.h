@@ -62,8 +62,9 @@ public:
     std::string_view asWritten(std::string_view keyword) const;
     /// Returns the choice with a keyword; null when the file does not have it.
     const Choice *choice(std::string_view keyword) const;
-    /// Returns its first line, or else that of the option.
-    int lineOf(std::string_view keyword) const;
+    /// Returns the first line of a choice, or that of the option for null.
+    int lineOf(const Choice *choice) const { return choice ? choice->lines.front() : line(); }
+    int lineOf(std::string_view keyword) const { return lineOf(choice(keyword)); }
   };
 
   /// Reads `file`, which stays the caller's, from its beginning, and keeps what it says about the

@@ -121,11 +121,11 @@ void checkTexts(const ppd_option_t &option, const PanelOption &row, const PpdLin
   };
   for (int i = 0; i < option.num_choices; ++i) {
     const ppd_choice_t &choice = option.choices[i];
-    choices.try_emplace(std::string(lines.asWritten(choice.choice)), &choice);
     const std::string_view keyword = lines.asWritten(choice.choice);
+    if (!lines.translations.empty()) choices.try_emplace(std::string(keyword), &choice);
     const auto *given = lines.choice(keyword);
     add(choice, choice.text, given ? given->textLength : 0,
-        {row.key, keyword, lines.lineOf(keyword)});
+        {row.key, keyword, lines.lineOf(given)});
   }
   for (const auto &[language, keyword, text, line] : lines.translations) {
     const FaultyChoice place{row.key, keyword, line, {}, language};

@@ -101,6 +101,7 @@ void PanelPage::settle() {
 }
 
 void PanelPage::showDifferences() {
+  if (!isVisible()) return;  // it tells them when it is shown
   for (OptionRow *row : rows_) row->refresh();
   setRemark(remark());
   setDifferences(static_cast<int>(std::count_if(

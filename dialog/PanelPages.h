@@ -32,7 +32,8 @@ public:
   /// Settles what is shown, for a job that is about to be sent.
   void print();
 
-  /// Lets captions and the last line tell what differs from the printer's defaults.
+  /// Lets captions and the last line of a page that is seen tell what differs from the printer's
+  /// defaults.
   void showDifferences();
 
   /// Returns the options that the panel handles, by keyword.

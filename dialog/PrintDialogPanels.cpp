@@ -51,6 +51,7 @@ PrintDialogPanels::PrintDialogPanels(PlugInModule &module, QPrintDialog &dialog)
   const Printer *chosen = open(printer);
   if (chosen && chosen->session) chosen->session->markSaved(cupsOptions(*dialog.printer()));
   showPanelsOf(printer);
+  dialog.setProperty(kHasPanels, true);
 }
 
 bool PrintDialogPanels::eventFilter(QObject *watched, QEvent *event) {

@@ -16,6 +16,10 @@
 
 namespace kwopde::dialog {
 
+/// The property of a dialog that says that it has its panels, also to another copy of this code in
+/// the same process.
+inline constexpr const char *kHasPanels = "kwopdeHasPanels";
+
 /// Opens the part of `dialog` that has the tabs.
 void expandOptions(QPrintDialog &dialog);
 

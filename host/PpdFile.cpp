@@ -56,9 +56,18 @@ void trimTexts(ppd_file_t &ppd) {
   }
 }
 
+/// Returns whether the PPD has texts in the user's language beside its own: "*de.PageSize". The
+/// library reads no others.
+bool hasTranslations(const ppd_file_t &ppd) {
+  return std::any_of(ppd.attrs, ppd.attrs + ppd.num_attrs, [](const ppd_attr_t *attribute) {
+    return std::strchr(attribute->name, '.') != nullptr;
+  });
+}
+
 /// Puts the texts into the user's language, but for those of numbers: panels read numbers from
-/// texts, and "1,50" is another one.
+/// texts, and "1,50" is another one. The library searches for each text, also where it has none.
 void localize(ppd_file_t &ppd) {
+  if (!hasTranslations(ppd)) return;
   std::vector<std::pair<ppd_choice_t *, std::string>> numbers;
   for (ppd_option_t *option = ppdFirstOption(&ppd); option; option = ppdNextOption(&ppd))
     for (int i = 0; i < option->num_choices; ++i)

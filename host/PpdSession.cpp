@@ -8,6 +8,14 @@
 
 namespace kwopde::host {
 
+namespace {
+
+void setText(ppd_choice_t &record, const std::string &text) {
+  record.text[text.copy(record.text, PPD_MAX_TEXT - 1)] = 0;
+}
+
+}  // namespace
+
 PpdSession::PpdSession(PpdFile ppd, bool constraintHandling)
     : ppd_(std::move(ppd)), constraints_(ppd_.get()), constraintHandling_(constraintHandling) {}
 
@@ -103,8 +111,7 @@ void PpdSession::setMark(const ppd_option_t &option, const MarkableChoice &choic
   if (!record) return;
   Custom &custom = customs_.try_emplace(option.keyword, Custom{record->text, {}}).first->second;
   custom.value = choice.custom;
-  const std::string &text = wholeNumber(custom.value) ? custom.value : custom.ownText;
-  record->text[text.copy(record->text, PPD_MAX_TEXT - 1)] = 0;
+  setText(*record, wholeNumber(custom.value) ? custom.value : custom.ownText);
 }
 
 void PpdSession::settle(const ppd_option_t &option, const MarkableChoice &choice) {
@@ -125,6 +132,13 @@ void PpdSession::announce(const OptionChoice &change) {
       if (isSameKey(option.key, key)) key = option.key;
     panel->PPDOptionKeyValueDidChange(&key, &told.choice);
   }
+}
+
+PpdFile PpdSession::takePpd() {
+  for (const auto &[key, custom] : customs_)
+    setText(*ppdFindChoice(ppdFindOption(ppd_.get(), key.c_str()), kCustom), custom.ownText);
+  ppdMarkDefaults(ppd_.get());
+  return std::move(ppd_);
 }
 
 bool PpdSession::isChanged() const {

@@ -116,6 +116,9 @@ public:
   void removeObserver(SessionObserver *observer) { std::erase(observers_, observer); }
 
   const PpdFile &ppd() const { return ppd_; }
+
+  /// Gives the PPD up, as it was when it was read. To be called last: nothing else works then.
+  PpdFile takePpd();
   const Constraints &constraints() const { return constraints_; }
 
   /// Returns whether an option is marked otherwise than before anybody asked for anything.

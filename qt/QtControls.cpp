@@ -23,12 +23,23 @@ bool showsMnemonic(const QWidget &widget) {
   return label && label->buddy();
 }
 
+/// What a number begins with that is typed in the language of now. Made once for each, since that
+/// takes more than showing a dialog's tab.
+const QRegularExpression &typedNumber() {
+  static QString point;
+  static QRegularExpression start;
+  if (const QString now = QLocale().decimalPoint(); now != point) {
+    point = now;
+    start.setPattern("^\\s*[-+]?[\\d.,'\u2019\u00a0\u202f" + QRegularExpression::escape(point) +
+                     "]*\\d");
+  }
+  return start;
+}
+
 /// Returns `typed` with the number that it starts with in machine text: "1.234,5 %" typed in a
 /// German session is "1234.5 %". What is no number there stays as it is.
 QString machineText(const QString &typed) {
-  const QRegularExpression start("^\\s*[-+]?[\\d.,'\u2019\u00a0\u202f" +
-                                 QRegularExpression::escape(QLocale().decimalPoint()) + "]*\\d");
-  const auto number = start.match(typed);
+  const auto number = typedNumber().match(typed);
   bool isNumber = false;
   const double value = QLocale().toDouble(number.captured().trimmed(), &isNumber);
   if (!isNumber) return typed;
@@ -92,7 +103,8 @@ std::string QtTextField::stringValue() const {
   if (!widget_) return {};
   QString text = widget_->property("text").toString();
   // "&x" shows as an underlined x, "&&" as an ampersand.
-  if (showsMnemonic(*widget_)) text.replace(QRegularExpression("&(.)"), "\\1");
+  static const QRegularExpression mnemonic("&(.)");
+  if (showsMnemonic(*widget_)) text.replace(mnemonic, "\\1");
   if (qobject_cast<QLineEdit *>(widget_)) text = machineText(text);
   return text.toStdString();
 }

@@ -162,20 +162,31 @@ void CupsConnection::readHeader() {
 IppMessage CupsConnection::readAnswer() {
   readHeader();
   if (status_ != HTTP_STATUS_OK) return {};
-  const auto readAll = [](void *self, ipp_uchar_t *buffer, std::size_t size) -> ssize_t {
-    std::size_t done = 0;
-    while (done < size) {
-      const auto part = static_cast<CupsConnection *>(self)->read(
-          reinterpret_cast<char *>(buffer) + done, size - done);
-      if (part <= 0) return -1;
-      done += static_cast<std::size_t>(part);
+  // The library asks for a byte or two at a time, and each would be a call of the system.
+  struct Blocks {
+    CupsConnection &server;
+    std::array<char, 16384> bytes{};
+    std::string_view left{};
+
+    bool fill() {
+      const ssize_t size = server.read(bytes.data(), bytes.size());
+      left = {bytes.data(), static_cast<std::size_t>(std::max<ssize_t>(size, 0))};
+      return size > 0;
     }
-    return static_cast<ssize_t>(done);
+  } blocks{*this};
+  const auto readAll = [](void *source, ipp_uchar_t *buffer, std::size_t size) -> ssize_t {
+    auto &from = *static_cast<Blocks *>(source);
+    for (std::size_t done = 0; done < size;) {
+      if (from.left.empty() && !from.fill()) return -1;
+      const auto part = from.left.copy(reinterpret_cast<char *>(buffer) + done, size - done);
+      from.left.remove_prefix(part);
+      done += part;
+    }
+    return static_cast<ssize_t>(size);
   };
   IppMessage message(ippNew());
-  if (ippReadIO(this, readAll, 1, nullptr, message.get()) != IPP_STATE_DATA) return {};
-  std::array<char, 512> rest;
-  while (httpGetState(http_.get()) != HTTP_STATE_WAITING && read(rest.data(), rest.size()) > 0) {
+  if (ippReadIO(&blocks, readAll, 1, nullptr, message.get()) != IPP_STATE_DATA) return {};
+  while (httpGetState(http_.get()) != HTTP_STATE_WAITING && blocks.fill()) {
   }
   return message;
 }

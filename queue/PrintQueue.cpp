@@ -5,8 +5,11 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdio>
+#include <optional>
 #include <set>
 #include <string_view>
+#include <utility>
 
 #include "host/Error.h"
 #include "queue/CupsConnection.h"
@@ -23,6 +26,29 @@ std::string firstMember(CupsConnection &server, const std::string &queue) {
   const IppMessage answer = server.ask(requestAbout(queue, IPP_OP_GET_PRINTER_ATTRIBUTES), "/");
   ipp_attribute_t *members = ippFindAttribute(answer.get(), "member-names", IPP_TAG_NAME);
   return members ? ippGetString(members, 0, nullptr) : std::string();
+}
+
+/// A PPD that no session has, and what it was read from.
+struct SparePpd {
+  std::string text;      // of the file
+  std::string language;  // which its texts are in
+  PpdFile ppd;
+};
+
+/// The one of the session that was dropped last: applications open one dialog after another, and to
+/// read a PPD takes most of what the panels add to one.
+std::optional<SparePpd> &sparePpd() {
+  // Never destroyed: sessions may live longer than what is static.
+  static auto *const spare = new std::optional<SparePpd>;
+  return *spare;
+}
+
+std::string textOf(std::FILE *file) {
+  std::string text;
+  std::array<char, 16384> block;
+  while (const auto size = std::fread(block.data(), 1, block.size(), file))
+    text.append(block.data(), size);
+  return text;
 }
 
 std::string nameOfPpd(const std::string &queue) {
@@ -137,7 +163,17 @@ std::shared_ptr<PpdSession> PrintQueue::openSession() const {
         fmt::format("the printer {} has no PPD, so it has no panels: choose another, or "
                     "set it up with a PPD (lpadmin -p {} -P FILE)",
                     name_, name_));
-  auto session = std::make_shared<PpdSession>(PpdFile::read(ppd.get(), nameOfPpd(name_)));
+  std::string text = textOf(ppd.get());
+  std::string language = cupsLangDefault()->language;
+  auto spare = std::exchange(sparePpd(), {});
+  if (!spare || spare->text != text || spare->language != language)
+    spare = {text, language, PpdFile::read(ppd.get(), nameOfPpd(name_))};
+  // Nothing here needs memory, and so nothing fails: a job may have been sent.
+  auto keep = [text = std::move(text), language = std::move(language)](PpdSession *dropped) mutable {
+    sparePpd() = {std::move(text), std::move(language), dropped->takePpd()};
+    delete dropped;
+  };
+  const std::shared_ptr<PpdSession> session(new PpdSession(std::move(spare->ppd)), std::move(keep));
   session->setPrinter(destination());
   session->markSaved(options_);
   return session;

@@ -34,8 +34,10 @@ public:
   /// Throws `JobError` when the server does not tell.
   std::vector<OptionChoice> defaults() const;
 
-  /// Returns a session on the queue's PPD, with the user's saved options marked. Throws `Error`
-  /// when the queue has no PPD, or a broken one, and `JobError` when it did not come whole.
+  /// Returns a session on the queue's PPD, with the user's saved options marked. The PPD of the
+  /// session that was dropped last is not read again while the server has the same. Throws `Error`
+  /// when the queue has no PPD, or a broken one, and `JobError` when it did not come whole. To be
+  /// called, and the session dropped, in one thread.
   std::shared_ptr<PpdSession> openSession() const;
 
   /// Returns whether `queue`, without an instance, has another PPD now than that of `session`.

@@ -61,12 +61,6 @@ Output run(const std::string &command) {
   return output;
 }
 
-std::string contents(const std::string &path) {
-  std::ostringstream text;
-  text << std::ifstream(path).rdbuf();
-  return text.str();
-}
-
 /// Waits until a job went through the filters, and returns what the last of them found marked.
 std::string markedFor(int job) {
   const std::string path =

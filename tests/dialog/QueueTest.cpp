@@ -52,12 +52,6 @@ std::string document(const std::string &name, const std::string &start, std::siz
   return folder.write(name, start + std::string(size, 'x'));
 }
 
-std::string contents(const std::string &path) {
-  std::ostringstream text;
-  text << std::ifstream(path).rdbuf();
-  return text.str();
-}
-
 /// The value of a job's attribute on the server; empty when it has none.
 std::string attribute(int job, const char *name) {
   return attributesOf(job)[name];
@@ -146,6 +140,44 @@ TEST(Queue, SavedOptionsOfTheUserAreMarked) {
   cupsSetDests2(nullptr, 1, dest);
   cupsFreeDests(1, dest);
   EXPECT_EQ(PrintQueue("").name(), "kwo-7032");
+}
+
+TEST(Queue, IsReadAgainWhenItChangedAndIsAlwaysAsIfItWere) {
+  const auto setUp = [](const std::string &quality) {
+    const std::string ppd = document(
+        "again.ppd",
+        ppdText(option("quality", "Quality", quality, {{"Fine", "Fine"}, {"Draft", "Draft"}}) +
+                option("scale", "Scale", "100", {{"100", "100"}}) +
+                "*Customscale True: \"pop\"\n*ParamCustomscale Scale/Percent: 1 int 10 400\n"));
+    const std::string add = "/usr/sbin/lpadmin -p again -E -v file:/dev/null -P " + ppd;
+    return std::system((add + " 2>/dev/null").c_str()) == 0;
+  };
+  /// What is marked, and every text.
+  const auto state = [](const host::PpdSession &session) {
+    std::vector<std::string> all;
+    session.ppd().forEachOption([&](const ppd_option_t &option) {
+      all.push_back(session.markedChoice(option.keyword).value_or("nothing"));
+      for (int i = 0; i < option.num_choices; ++i) all.emplace_back(option.choices[i].text);
+    });
+    return all;
+  };
+  ASSERT_TRUE(setUp("Fine"));
+  const PrintQueue queue("again");
+  auto session = queue.openSession();
+  ppd_file_t *const first = session->ppdFile();
+  const auto asRead = state(*session);
+  const auto second = queue.openSession();
+  EXPECT_NE(second->ppdFile(), first) << "while it is in use";
+  EXPECT_EQ(state(*second), asRead);
+  EXPECT_TRUE(session->mark("scale", "Custom.87") && session->mark("quality", "Draft"));
+  EXPECT_NE(state(*session), asRead);
+  session.reset();
+  session = queue.openSession();
+  EXPECT_EQ(session->ppdFile(), first) << "was read again";
+  EXPECT_EQ(state(*session), asRead);
+  session.reset();
+  ASSERT_TRUE(setUp("Draft"));
+  EXPECT_NE(state(*queue.openSession()), asRead);
 }
 
 TEST(Queue, ResolvedConflictsAndCustomValuesReachTheServer) {
@@ -256,6 +288,25 @@ TEST_F(QtDialog, GivesPanelsRoomWhereItFoldsThemAway) {
     QtDialog::open(*dialog, 3);
     EXPECT_GE(tabs->currentWidget()->height(), 20 * dialog->fontMetrics().height());
   }
+}
+
+// Qt's plug-in attaches the panels to every dialog of a process, our own among them.
+TEST_F(QtDialog, OfOursHasThePanelsOnceAndSavesEachOnce) {
+  class Saves final : public LogSink {
+  public:
+    void writeLine(std::string_view line) override {
+      if (line.find("BEGIN") != line.npos && line.find("saveSettingsToPPD:") != line.npos) ++count;
+    }
+    int count = 0;
+  };
+  dialog::QueueDialog dialog(dialog::loadModule(), printer_, {});
+  attachPanels(&dialog);
+  EXPECT_EQ(tabs(dialog), QStringList({"Media", "Color", "Sharpen", "Summary"}));
+  for (const int page : {2, 3, 4}) open(dialog, page);  // an unseen one has nothing to save
+  Saves saves;
+  const host::TraceTo trace(dialog::loadModule(), &saves);
+  dialog.accept();
+  EXPECT_EQ(saves.count, 3);
 }
 
 TEST_F(QtDialog, TwoDialogsOfOneQueueKeepTheirSettingsApart) {

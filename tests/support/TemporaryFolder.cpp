@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <sstream>
 #include <system_error>
 
 namespace kwopde::test {
@@ -22,6 +23,12 @@ std::string TemporaryFolder::write(const std::string &name, const std::string &c
   std::string path = path_ + "/" + name;
   std::ofstream(path) << contents;
   return path;
+}
+
+std::string contents(const std::string &path) {
+  std::ostringstream text;
+  text << std::ifstream(path).rdbuf();
+  return text.str();
 }
 
 }  // namespace kwopde::test

@@ -1,4 +1,4 @@
-// A folder that no other test, run or user shares.
+// Files of tests, in a folder that no other test, run or user shares.
 #pragma once
 
 #include <string>
@@ -20,5 +20,8 @@ public:
 private:
   std::string path_;
 };
+
+/// Returns what is in the file at `path`; nothing when it cannot be read.
+std::string contents(const std::string &path);
 
 }  // namespace kwopde::test
