@@ -169,7 +169,8 @@ std::shared_ptr<PpdSession> PrintQueue::openSession() const {
   if (!spare || spare->text != text || spare->language != language)
     spare = {text, language, PpdFile::read(ppd.get(), nameOfPpd(name_))};
   // Nothing here needs memory, and so nothing fails: a job may have been sent.
-  auto keep = [text = std::move(text), language = std::move(language)](PpdSession *dropped) mutable {
+  auto keep = [text = std::move(text),
+               language = std::move(language)](PpdSession *dropped) mutable {
     sparePpd() = {std::move(text), std::move(language), dropped->takePpd()};
     delete dropped;
   };

@@ -42,9 +42,7 @@ namespace {
 /// Puts a text with a mark behind every text of kwo-7032.ppd, where `<` of a hexadecimal digit is
 /// written in hexadecimal.
 std::string foreignPpd() {
-  std::ostringstream text;
-  text << std::ifstream(KWOPDE_SOURCE_FOLDER "/resources/ppd/kwo-7032.ppd").rdbuf();
-  std::string ppd = text.str();
+  std::string ppd = contents(KWOPDE_SOURCE_FOLDER "/resources/ppd/kwo-7032.ppd");
   const std::pair<const char *, const char *> rows[] = {
       {R"((\*PageSize [^/]+/[^:]+):)", "$1 <h1>PAPER</h1>:"},
       {R"((\*OpenUI \*(?!Page)\w+/[^:]+):)", "$1 <3C>b>OPTION</3C>/b><1B>[1m<0A>x:"},
