@@ -5,13 +5,13 @@
 
 namespace {
 
-long count = 0;
+long made = 0;
 
 }  // namespace
 
 // Not inlined: GCC takes a pair of which one is for a mismatch.
 [[gnu::noinline]] void *operator new(std::size_t size) {
-  ++count;
+  ++made;
   if (void *memory = std::malloc(size)) return memory;
   throw std::bad_alloc();
 }
@@ -23,5 +23,5 @@ long count = 0;
 }
 
 long kwopde::bench::allocations() {
-  return count;
+  return made;
 }

@@ -74,7 +74,7 @@ Stream fetchPpd(const std::string &queue) {
 }
 
 /// How often the library is asked again for a printer that is there.
-constexpr int kMostRepeats = 5;
+constexpr int kMostLookUps = 5;
 
 /// Returns whether the server has the printer, or with an empty name a default one. Throws
 /// `JobError` when it does not answer.
@@ -108,8 +108,8 @@ PrintQueue::PrintQueue(const std::string &name) {
   cups_dest_t *dest = find();
   // To the library, a connection that was lost is a printer that is not there.
   for (int repeats = 0; !dest && hasPrinter(server, queue); ++repeats) {
-    if (repeats == kMostRepeats && queue.empty()) break;
-    if (repeats == kMostRepeats)
+    if (repeats == kMostLookUps && queue.empty()) break;
+    if (repeats == kMostLookUps)
       throw JobError(fmt::format("the CUPS server did not tell of the printer {}", queue));
     dest = find();
   }
