@@ -273,7 +273,7 @@ TEST_F(QtDialog, IsWorkedByTheKeyboardAloneAndSeenWithoutScrolling) {
     expectUsable(settings, 4);
   };
   check("&Print");
-  const German german;
+  const Speaking german(QLocale::German);
   check("&Drucken");
 }
 

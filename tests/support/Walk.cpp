@@ -102,15 +102,15 @@ std::string cutOff(const QWidget &page) {
   return more.isNull() ? std::string() : fmt::format("{}+{}", more.height(), more.width());
 }
 
-German::German() {
+Speaking::Speaking(QLocale::Language language) {
   removeTranslations();
-  QLocale::setDefault(QLocale(QLocale::German));
+  QLocale::setDefault(QLocale(language));
   dialog::installTranslations();
   if (panels_.load(QLocale(), "kwopde", "_", ":/kwopde"))
     QCoreApplication::installTranslator(&panels_);
 }
 
-German::~German() {
+Speaking::~Speaking() {
   removeTranslations();
   QLocale::setDefault(before_);
 }

@@ -1,4 +1,4 @@
-// A dialog as somebody meets it who has no mouse, reads German, or needs large letters.
+// A dialog as somebody meets it who has no mouse, reads another language, or needs large letters.
 #pragma once
 
 #include <QLocale>
@@ -27,13 +27,18 @@ std::string helpOf(QWidget &window);
 /// "9+0"; empty when it has its room.
 std::string cutOff(const QWidget &page);
 
-/// The dialogs, the panels and Qt speak German while it lives.
-class German {
+/// The languages that the dialogs have translations for.
+inline constexpr QLocale::Language kLanguages[] = {QLocale::German,   QLocale::French,
+                                                   QLocale::Spanish,  QLocale::Italian,
+                                                   QLocale::Japanese, QLocale::Arabic};
+
+/// The dialogs, the panels and Qt speak `language` while it lives.
+class Speaking {
 public:
-  German();
-  German(const German &) = delete;
-  German &operator=(const German &) = delete;
-  ~German();
+  explicit Speaking(QLocale::Language language);
+  Speaking(const Speaking &) = delete;
+  Speaking &operator=(const Speaking &) = delete;
+  ~Speaking();
 
 private:
   const QLocale before_;
