@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdio>
 #include <optional>
 #include <set>
 #include <string_view>
@@ -28,9 +27,8 @@ std::string firstMember(CupsConnection &server, const std::string &queue) {
   return members ? ippGetString(members, 0, nullptr) : std::string();
 }
 
-/// A PPD that no session has, and what it was read from.
+/// A PPD that no session has.
 struct SparePpd {
-  std::string text;      // of the file
   std::string language;  // which its texts are in
   PpdFile ppd;
 };
@@ -41,14 +39,6 @@ std::optional<SparePpd> &sparePpd() {
   // Never destroyed: sessions may live longer than what is static.
   static auto *const spare = new std::optional<SparePpd>;
   return *spare;
-}
-
-std::string textOf(std::FILE *file) {
-  std::string text;
-  std::array<char, 16384> block;
-  while (const auto size = std::fread(block.data(), 1, block.size(), file))
-    text.append(block.data(), size);
-  return text;
 }
 
 std::string nameOfPpd(const std::string &queue) {
@@ -163,15 +153,15 @@ std::shared_ptr<PpdSession> PrintQueue::openSession() const {
         fmt::format("the printer {} has no PPD, so it has no panels: choose another, or "
                     "set it up with a PPD (lpadmin -p {} -P FILE)",
                     name_, name_));
-  std::string text = textOf(ppd.get());
+  const std::string name = nameOfPpd(name_);
   std::string language = cupsLangDefault()->language;
   auto spare = std::exchange(sparePpd(), {});
-  if (!spare || spare->text != text || spare->language != language)
-    spare = {text, language, PpdFile::read(ppd.get(), nameOfPpd(name_))};
+  if (!spare || spare->language != language ||
+      spare->ppd.fingerprint() != PpdFile::fingerprintOf(ppd.get(), name))
+    spare = {language, PpdFile::read(ppd.get(), name)};
   // Nothing here needs memory, and so nothing fails: a job may have been sent.
-  auto keep = [text = std::move(text),
-               language = std::move(language)](PpdSession *dropped) mutable {
-    sparePpd() = {std::move(text), std::move(language), dropped->takePpd()};
+  auto keep = [language = std::move(language)](PpdSession *dropped) mutable {
+    sparePpd() = {std::move(language), dropped->takePpd()};
     delete dropped;
   };
   const std::shared_ptr<PpdSession> session(new PpdSession(std::move(spare->ppd)), std::move(keep));
