@@ -86,7 +86,7 @@ std::string HostLog::listText(const std::vector<OptionChoice> &choices) const {
 std::string HostLog::shown(const std::string &key, const std::string &choice) const {
   // "job-password" is an attribute of jobs.
   const bool isSecret = session_.ppd().isSecret(key) || key.find("password") != key.npos;
-  return isSecret ? "•••" : choice;
+  return isSecret ? kHidden : choice;
 }
 
 }  // namespace kwopde::host

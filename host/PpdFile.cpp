@@ -174,7 +174,7 @@ std::string PpdFile::textOf(const std::string &key, const std::string &choice) c
   ppd_option_t *option = ppdFindOption(get(), key.c_str());
   const ppd_choice_t *found = option ? ppdFindChoice(option, choice.c_str()) : nullptr;
   // A custom value is best told by itself, unless it is nobody else's business.
-  if (const auto value = customValue(choice)) return isSecret(key) ? "•••" : std::string(*value);
+  if (const auto value = customValue(choice)) return isSecret(key) ? kHidden : std::string(*value);
   return found && *found->text ? found->text : choice;
 }
 

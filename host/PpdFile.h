@@ -10,6 +10,9 @@
 
 namespace kwopde::host {
 
+/// What is shown in place of a password.
+inline constexpr const char *kHidden = "•••";
+
 class PpdFile {
 public:
   /// Opens the PPD at `path`, a file, a pipe or "-" for standard input. Puts its texts into the
