@@ -33,8 +33,8 @@ private:
     panels_.handOver();
     // The application prints now, so this can only be told.
     QStringList problems = panels_.refusals();
-    if (const QString replaced = panels_.followPpd(); !replaced.isEmpty())
-      problems.append(replaced);
+    const QString replaced = panels_.followPpd(nullptr).value_or(QString());
+    if (!replaced.isEmpty()) problems.append(replaced);
     if (const QString conflicts = panels_.conflicts(); !conflicts.isEmpty())
       problems.append(conflicts);
     if (problems.isEmpty()) return;

@@ -17,7 +17,7 @@ PanelDialog::PanelDialog(PlugInModule &module, const QString &acceptText, QWidge
     : QDialog(parent),
       module_(module),
       facts_(new QFormLayout),
-      none_(plainLabel(tr("This printer has no settings for these panels."))),
+      none_(plainLabel({})),
       tabs_(new QTabWidget) {
   auto *layout = new QVBoxLayout(this);
   layout->addLayout(facts_);
@@ -26,13 +26,13 @@ PanelDialog::PanelDialog(PlugInModule &module, const QString &acceptText, QWidge
   tabs_->setObjectName("tabs");
   layout->addWidget(tabs_, 1);
   auto *buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, this);
-  QPushButton *button = buttons->addButton(acceptText, QDialogButtonBox::AcceptRole);
+  accept_ = buttons->addButton(acceptText, QDialogButtonBox::AcceptRole);
   help_ = addHelp(*buttons, *tabs_);
   addTabKeys(*tabs_);
   connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   layout->addWidget(buttons);
-  button->setDefault(true);
+  accept_->setDefault(true);
 }
 
 void PanelDialog::showPanels(const std::shared_ptr<host::PpdSession> &session) {
@@ -48,9 +48,17 @@ void PanelDialog::showPanels(const std::shared_ptr<host::PpdSession> &session) {
     if (page->objectName() == openTab_) tabs_->setCurrentWidget(page);
   if (pages_) connect(pages_.get(), &PanelPages::asksFor, tabs_, &QTabWidget::setCurrentWidget);
   tabs_->setVisible(!pages.isEmpty());
+  none_->setText(tr("This printer has no settings for these panels."));
   none_->setVisible(pages.isEmpty());
+  accept_->setEnabled(true);
   help_->setVisible(!pages.isEmpty());
   if (!pages.isEmpty()) tabs_->setFocus();
+}
+
+void PanelDialog::showInstead(const QString &text) {
+  showPanels(nullptr);
+  none_->setText(text);
+  accept_->setEnabled(false);
 }
 
 void PanelDialog::accept() {

@@ -30,6 +30,9 @@ protected:
   /// tab is open again where there is one.
   void showPanels(const std::shared_ptr<host::PpdSession> &session);
 
+  /// Shows `text` in place of panels, which there are none to accept.
+  void showInstead(const QString &text);
+
   /// Returns the rows above the tabs, which tell what is set.
   QFormLayout &facts() { return *facts_; }
 
@@ -39,8 +42,9 @@ protected:
 private:
   PlugInModule &module_;
   QFormLayout *facts_;
-  QLabel *none_;
+  QLabel *none_;  // what is shown without panels
   QTabWidget *tabs_;
+  QPushButton *accept_;
   QPushButton *help_;
   QString openTab_;  // the page that was in front, by name
   std::unique_ptr<PanelPages> pages_;

@@ -10,27 +10,39 @@
 #include <algorithm>
 
 #include "dialog/PlainText.h"
+#include "dialog/Question.h"
 #include "host/Error.h"
 #include "queue/PrintQueue.h"
 
 namespace kwopde::dialog {
 
-PresetRow::PresetRow(const QString &destination, PanelPages &pages, Settings settings,
-                     QWidget *window)
+namespace {
+
+/// Returns what the server answers; none when a person cancelled, or was told over `window` why it
+/// did not.
+template <class Ask>
+auto tryTo(QWidget *window, Ask ask) -> decltype(askAndWait(window, ask)) {
+  try {
+    return askAndWait(window, std::move(ask));
+  } catch (const host::Error &error) {
+    warn(window, QString::fromStdString(error.what()));
+    return {};
+  }
+}
+
+}  // namespace
+
+PresetRow::PresetRow(const QString &destination, std::vector<std::string> names, PanelPages &pages,
+                     Settings settings, QWidget *window)
     : queue_(destination.section('/', 0, 0).toStdString()),
       current_(destination.section('/', 1).toStdString()),
-      presets_(queue_),
       pages_(pages),
       settings_(std::move(settings)),
       window_(window),
+      names_(std::move(names)),
       menu_(new QMenu(window)) {
   connect(this, &QObject::destroyed, menu_, &QObject::deleteLater);
   connect(menu_, &QMenu::aboutToShow, this, &PresetRow::fillMenu);
-  try {
-    names_ = presets_.names();
-  } catch (const host::Error &) {
-    // Told when the menu is used.
-  }
   if (!current_.empty() && std::find(names_.begin(), names_.end(), current_) == names_.end())
     names_.push_back(current_);
   names_.insert(names_.begin(), std::string());
@@ -121,31 +133,35 @@ void PresetRow::saveAs() {
 
 void PresetRow::saveAs(const std::string &name) {
   const auto settings = settings_();
-  if (settings && act([&] { presets_.save(name, *settings); })) emit chosen(destinationOf(name));
+  if (settings && act([=](host::Presets &presets) { presets.save(name, *settings); }))
+    emit chosen(destinationOf(name));
 }
 
 bool PresetRow::save(const std::vector<host::OptionChoice> &options) {
-  return act([&] { presets_.save(current_, options); });
+  return act([name = current_, options](host::Presets &presets) { presets.save(name, options); });
 }
 
 void PresetRow::reset() {
-  act([this] { pages_.reset(host::PrintQueue(queue_).defaults()); });
+  const auto ask = [queue = queue_](const host::GoesOn &goesOn) {
+    return host::PrintQueue(queue, goesOn).defaults(goesOn);
+  };
+  if (const auto defaults = tryTo(window_, ask)) pages_.reset(*defaults);
 }
 
 void PresetRow::remove() {
   if (confirm(window_, tr("Delete the preset “%1”?").arg(titleOf(current_)), tr("Delete")) &&
-      act([&] { presets_.remove(current_); }))
+      act([name = current_](host::Presets &presets) { presets.remove(name); }))
     emit chosen(destinationOf({}));
 }
 
-bool PresetRow::act(const std::function<void()> &action) {
-  try {
-    action();
-    return true;
-  } catch (const host::Error &error) {
-    warn(window_, QString::fromStdString(error.what()));
-    return false;
-  }
+bool PresetRow::act(const std::function<void(host::Presets &)> &action) {
+  return tryTo(window_,
+               [=, queue = queue_](const host::GoesOn &goesOn) {
+                 host::Presets presets(queue, goesOn);
+                 action(presets);
+                 return true;
+               })
+      .has_value();
 }
 
 QString PresetRow::destinationOf(const std::string &name) const {

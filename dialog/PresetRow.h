@@ -25,9 +25,11 @@ public:
   /// Returns what is to be kept; none when it cannot be, which the person has then been told.
   using Settings = std::function<std::optional<std::vector<host::OptionChoice>>()>;
 
-  /// `destination` is the queue whose settings `pages` shows, or a preset of it ("photo/glossy").
-  /// Questions to the person appear over `window`. The pages are borrowed.
-  PresetRow(const QString &destination, PanelPages &pages, Settings settings, QWidget *window);
+  /// `destination` is the queue whose settings `pages` shows, or a preset of it ("photo/glossy"),
+  /// and `names` are the queue's presets. Questions to the person appear over `window`. The pages
+  /// are borrowed.
+  PresetRow(const QString &destination, std::vector<std::string> names, PanelPages &pages,
+            Settings settings, QWidget *window);
 
   /// Keeps `options` for the destination. Returns false when that failed, which the person has been
   /// told.
@@ -47,13 +49,12 @@ private:
   void saveAs(const std::string &name);
   void reset();
   void remove();
-  bool act(const std::function<void()> &action);
+  bool act(const std::function<void(host::Presets &)> &action);
   QString destinationOf(const std::string &name) const;
   QString titleOf(const std::string &name) const;
 
   std::string queue_;
   std::string current_;  // the name of a preset; empty for none
-  host::Presets presets_;
   PanelPages &pages_;
   Settings settings_;
   QWidget *window_;

@@ -34,7 +34,8 @@ PrintDialogPanels::PrintDialogPanels(PlugInModule &module, QPrintDialog &dialog)
   dialog.installEventFilter(this);
   // The dialog tells nobody which printer is chosen, but its combo box does.
   if (auto *printers = dialog.findChild<QComboBox *>("printers"))
-    connect(printers, &QComboBox::currentTextChanged, this, &PrintDialogPanels::showPanelsOf);
+    connect(printers, &QComboBox::currentTextChanged, this,
+            [this](const QString &printer) { showPanelsOf(printer); });
   if (auto *properties = dialog.findChild<QPushButton *>("properties")) {
     // Qt makes its Properties, and waits for them, while the button says that it was clicked.
     connect(properties, &QPushButton::released, this,
@@ -46,11 +47,11 @@ PrintDialogPanels::PrintDialogPanels(PlugInModule &module, QPrintDialog &dialog)
   if (tabs) addTabKeys(*tabs);
   if (tabs && buttons) help_ = addHelp(*buttons, *tabs);
   if (buttons) buttons->installEventFilter(this);
-  const QString printer = dialog.printer()->printerName();
   // What an earlier dialog has set on the same QPrinter is still set.
-  const Printer *chosen = open(printer);
-  if (chosen && chosen->session) chosen->session->markSaved(cupsOptions(*dialog.printer()));
-  showPanelsOf(printer);
+  showPanelsOf(dialog.printer()->printerName(),
+               [set = cupsOptions(*dialog.printer())](host::PpdSession &session) {
+                 session.markSaved(set);
+               });
   dialog.setProperty(kHasPanels, true);
 }
 
@@ -66,32 +67,43 @@ bool PrintDialogPanels::eventFilter(QObject *watched, QEvent *event) {
   return QObject::eventFilter(watched, event);
 }
 
-PrintDialogPanels::Printer *PrintDialogPanels::open(const QString &printer) {
-  if (printer.isEmpty()) return nullptr;
-  const auto known = printers_.find(printer);
-  if (known != printers_.end() && known->second.session) return &known->second;
-  Printer *opened = nullptr;
+void PrintDialogPanels::showPanelsOf(const QString &printer, const Prepare &prepare) {
+  closePages();
+  chosen_ = printer;
+  if (const auto known = printers_.find(printer);
+      known != printers_.end() && known->second.session) {
+    printer_ = &known->second;
+    return showPages();
+  }
+  if (printer.isEmpty()) return;
+  const auto ask = [name = printer.toStdString()](const host::GoesOn &goesOn) {
+    return Printer::find(name, goesOn);
+  };
+  question_ = std::make_unique<Question>(ask, [this, prepare](std::future<Printer> answer) {
+    keep(std::move(answer), prepare);
+    showPages();
+  });
+}
+
+void PrintDialogPanels::keep(std::future<Printer> answer, const Prepare &prepare) {
   try {
-    const host::PrintQueue queue(printer.toStdString());
-    opened = &(printers_[printer] = {queue.options(), nullptr});
-    opened->session = queue.openSession();
-    opened->session->setFixed(optionsOfQt());
-    opened->session->setQueueDefaults(queue.defaults());
+    const Printer told = answer.get();
+    printer_ = &(printers_[chosen_] = {told.queue.options(), told.presets, nullptr});
+    printer_->session = told.queue.openSession();
+    printer_->session->setFixed(optionsOfQt());
+    if (prepare) prepare(*printer_->session);
   } catch (const host::Error &) {
     // Not a queue, or one without a PPD: a printer that is not ours.
   }
-  return opened;
 }
 
-void PrintDialogPanels::showPanelsOf(const QString &printer) {
-  closePages();
-  chosen_ = printer;
-  printer_ = open(printer);
+void PrintDialogPanels::showPages() {
   if (printer_ && printer_->session)
     pages_ = std::make_unique<PanelPages>(module_, printer_->session);
-  if (help_) help_->setVisible(hasPanels());
   if (!hasPanels()) return;
-  presets_ = std::make_unique<PresetRow>(printer, *pages_, [this] { return settings(); }, &dialog_);
+  if (help_) help_->show();
+  presets_ = std::make_unique<PresetRow>(
+      chosen_, printer_->presets, *pages_, [this] { return settings(); }, &dialog_);
   connect(presets_.get(), &PresetRow::chosen, this, &PrintDialogPanels::switchTo,
           Qt::QueuedConnection);
   QList<QWidget *> tabs;
@@ -109,11 +121,13 @@ void PrintDialogPanels::closePages() {
   if (pages_ && tabWidget) openTab_ = tabWidget->currentWidget()->objectName();
   presets_.reset();
   pages_.reset();
+  question_.reset();
+  printer_ = nullptr;
+  if (help_) help_->hide();
 }
 
 void PrintDialogPanels::switchTo(const QString &printer) {
   closePages();
-  printer_ = nullptr;
   printers_.erase(printer);  // as it is saved, whatever was set before
   auto *printers = dialog_.findChild<QComboBox *>("printers");
   if (!printers) return;
@@ -130,6 +144,10 @@ std::optional<std::vector<host::OptionChoice>> PrintDialogPanels::settings() {
   return job.kept();
 }
 
+bool PrintDialogPanels::waitForPrinter() {
+  return !question_ || question_->wait(&dialog_);
+}
+
 bool PrintDialogPanels::settle() {
   if (!hasPanels()) return true;
   const bool asShown = pages_->print();
@@ -137,35 +155,19 @@ bool PrintDialogPanels::settle() {
   return asShown;
 }
 
-QString PrintDialogPanels::followPpd() {
-  if (!hasPanels()) return {};
-  const host::PpdSession &session = *printer_->session;
-  const QString queue = chosen_.section('/', 0, 0);
-  try {
-    if (!host::PrintQueue::hasOtherPpd(queue.toStdString(), session)) return {};
-  } catch (const host::Error &) {
-    return {};  // whoever sends the job is told
-  }
+std::optional<QString> PrintDialogPanels::followPpd(QWidget *window) {
+  if (!hasPanels()) return QString();
+  const auto replaced = Printer::tellOfNewPpd(window, chosen_, *printer_->session);
+  if (!replaced || replaced->isEmpty()) return replaced;
   // Later: this may be called from an event of the pages.
-  const auto show = [this, printer = chosen_, set = session.settledChoices()] {
-    showNewPpd(printer, set);
+  const auto show = [this, printer = chosen_, set = Printer::copyOf(*printer_->session)] {
+    if (printer != chosen_) return;
+    closePages();
+    printers_.erase(printer);
+    showPanelsOf(printer, set);
   };
   QMetaObject::invokeMethod(this, show, Qt::QueuedConnection);
-  return tr("The printer %1 has got another PPD on its server since this dialog read it.")
-      .arg(queue);
-}
-
-void PrintDialogPanels::showNewPpd(const QString &printer,
-                                   const std::vector<host::PpdSession::Settled> &set) {
-  if (printer != chosen_) return;
-  closePages();
-  printer_ = nullptr;
-  printers_.erase(printer);
-  showPanelsOf(printer);
-  if (!hasPanels()) return;
-  for (const auto &[key, choice, isDefault] : set)
-    if (!isDefault) printer_->session->mark(key, choice);
-  pages_->showMarks();
+  return replaced;
 }
 
 QStringList PrintDialogPanels::refusals() const {

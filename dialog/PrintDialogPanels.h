@@ -11,6 +11,8 @@
 
 #include "dialog/PanelPages.h"
 #include "dialog/PresetRow.h"
+#include "dialog/Printer.h"
+#include "dialog/Question.h"
 #include "host/JobOptions.h"
 #include "host/PpdSession.h"
 
@@ -23,8 +25,8 @@ inline constexpr const char *kHasPanels = "kwopdeHasPanels";
 /// Opens the part of `dialog` that has the tabs.
 void expandOptions(QPrintDialog &dialog);
 
-/// While it lives, `dialog` shows the panels of the printer that is chosen in it, and none for a
-/// printer that is not ours.
+/// While it lives, `dialog` shows the panels of the printer that is chosen in it, once the server
+/// has told of it, and none for a printer that is not ours.
 class PrintDialogPanels final : public QObject {
   Q_OBJECT
 
@@ -32,15 +34,19 @@ public:
   /// `module` makes the panels. The dialog owns this object.
   PrintDialogPanels(PlugInModule &module, QPrintDialog &dialog);
 
+  /// Waits for the server to tell of the chosen printer. Returns false when a person cancelled
+  /// that.
+  bool waitForPrinter();
+
   /// Settles what the panels show, and lets the session know what Qt's tabs hold. To be called when
   /// the dialog is accepted. Returns false when something was refused, and was not when this was
   /// called last; the page that it is on is then in front.
   bool settle();
 
-  /// Asks the server whether the chosen printer has another PPD than the one that the panels show.
-  /// Returns a sentence that says so, and lets the panels show that one soon, with what is set as
-  /// far as it has that; else an empty one, also when the server does not answer.
-  QString followPpd();
+  /// Asks the server whether the chosen printer has another PPD than the one that the panels show,
+  /// as `Printer::tellOfNewPpd` does and with what it returns. If so, the panels show that one
+  /// soon, with what is set as far as it has that.
+  std::optional<QString> followPpd(QWidget *window);
 
   /// Returns what was asked for and refused, a sentence each.
   QStringList refusals() const;
@@ -65,15 +71,16 @@ public:
 
 private:
   /// A queue of the server, as it was left.
-  struct Printer {
+  struct Left {
     std::vector<host::OptionChoice> destination;  // what is saved for it
-    std::shared_ptr<host::PpdSession> session;    // null when it has no PPD
+    std::vector<std::string> presets;
+    std::shared_ptr<host::PpdSession> session;  // null when it has no PPD
   };
 
-  Printer *open(const QString &printer);
-  void showPanelsOf(const QString &printer);
+  void showPanelsOf(const QString &printer, const Prepare &prepare = {});
+  void keep(std::future<Printer> answer, const Prepare &prepare);
+  void showPages();
   void switchTo(const QString &printer);
-  void showNewPpd(const QString &printer, const std::vector<host::PpdSession::Settled> &set);
   void closePages();
   QDialog *properties() const;
   template <class Visit>
@@ -87,9 +94,10 @@ private:
 
   PlugInModule &module_;
   QPrintDialog &dialog_;
-  std::map<QString, Printer> printers_;  // by name, with the instance
-  Printer *printer_ = nullptr;           // the chosen one; null when it is no queue
-  QString chosen_;                       // its name, with the instance
+  std::map<QString, Left> printers_;  // by name, with the instance
+  Left *printer_ = nullptr;  // the chosen one; null when it is no queue, or not told of yet
+  QString chosen_;           // its name, with the instance
+  std::unique_ptr<Question> question_;
   std::unique_ptr<PanelPages> pages_;
   std::unique_ptr<PresetRow> presets_;
   QPushButton *help_ = nullptr;  // the dialog's

@@ -71,7 +71,7 @@ void QueueDialog::done(int result) {
   if (isSending_) return;  // events run meanwhile: a second click, or Return once more
   if (result == Accepted) {
     const QScopedValueRollback<bool> sending(isSending_, true);
-    if (!panels_.settle() || !hasSamePpd() || !isAllRight()) return;
+    if (!panels_.waitForPrinter() || !panels_.settle() || !hasSamePpd() || !isAllRight()) return;
     if (!documents_.empty()) switch (sendDocuments()) {
         case Outcome::sent:
           break;
@@ -85,13 +85,14 @@ void QueueDialog::done(int result) {
 }
 
 bool QueueDialog::hasSamePpd() {
-  QString replaced = panels_.followPpd();
-  if (replaced.isEmpty()) return true;
-  replaced += ' ' + tr("Its settings are shown anew: look at them, and print again.");
+  const auto replaced = panels_.followPpd(this);
+  if (!replaced || replaced->isEmpty()) return replaced.has_value();
+  const QString text =
+      *replaced + ' ' + tr("Its settings are shown anew: look at them, and print again.");
   if (unattended_)
-    problem_ = replaced;
+    problem_ = text;
   else
-    warn(this, replaced);
+    warn(this, text);
   return false;
 }
 

@@ -17,53 +17,69 @@ SettingsDialog::SettingsDialog(PlugInModule &module, const QStringList &queues,
   printers_->addItems(queues);
   printers_->setCurrentText(destination.section('/', 0, 0));
   facts().addRow(tr("Printer:"), printers_);
-  connect(printers_, &QComboBox::currentTextChanged, this, &SettingsDialog::switchTo);
-  showSettingsOf(destination);
+  connect(printers_, &QComboBox::currentTextChanged, this,
+          [this](const QString &printer) { switchTo(printer); });
+  switchTo(destination);
 }
 
-void SettingsDialog::switchTo(const QString &destination) {
-  try {
-    showSettingsOf(destination);
-  } catch (const host::Error &error) {
-    warn(this, QString::fromStdString(error.what()));
-  }
-}
-
-void SettingsDialog::showSettingsOf(const QString &destination) {
+void SettingsDialog::switchTo(const QString &destination, const Prepare &prepare) {
+  question_.reset();
   presets_.reset();
   session_.reset();
-  queue_.reset();
-  showPanels(nullptr);
   destination_ = destination;
-  queue_.emplace(destination.toStdString());
+  problem_ = Printer::tr("Asking the printer…");
+  showInstead(problem_);
+  const auto ask = [name = destination.toStdString()](const host::GoesOn &goesOn) {
+    return Printer::find(name, goesOn);
+  };
+  question_ = std::make_unique<Question>(ask, [this, prepare](std::future<Printer> answer) {
+    showSettings(std::move(answer), prepare);
+  });
+}
+
+void SettingsDialog::showSettings(std::future<Printer> answer, const Prepare &prepare) {
+  problem_.clear();
   try {
-    session_ = queue_->openSession();
-    session_->setQueueDefaults(queue_->defaults());
-  } catch (const host::JobError &) {
-    throw;
+    const Printer printer = answer.get();
+    session_ = printer.queue.openSession();
+    if (prepare) prepare(*session_);
+    kept_ = printer.queue.options();
+    showPanels(session_);
+    if (pages()->pages().isEmpty()) return;
+    presets_ = std::make_unique<PresetRow>(
+        destination_, printer.presets, *pages(), [this] { return settings(); }, this);
+    connect(
+        presets_.get(), &PresetRow::chosen, this,
+        [this](const QString &destination) { switchTo(destination); }, Qt::QueuedConnection);
+  } catch (const host::JobError &error) {
+    problem_ = QString::fromStdString(error.what());
+    showInstead(problem_);
   } catch (const host::Error &) {
-    return;  // a printer without panels
+    showPanels(nullptr);  // a printer without panels
   }
-  showPanels(session_);
-  if (pages()->pages().isEmpty()) return;
-  presets_ =
-      std::make_unique<PresetRow>(destination, *pages(), [this] { return settings(); }, this);
-  connect(presets_.get(), &PresetRow::chosen, this, &SettingsDialog::switchTo,
-          Qt::QueuedConnection);
 }
 
 void SettingsDialog::accept() {
+  if (!problem_.isEmpty()) return;
   if (presets_) {
     const auto options = settings();
-    if (!options || !presets_->save(*options)) return;
+    if (!options || !hasSamePpd() || !presets_->save(*options)) return;
     saved_ = *options;
   }
   done(Accepted);
 }
 
+bool SettingsDialog::hasSamePpd() {
+  const auto replaced = Printer::tellOfNewPpd(this, destination_, *session_);
+  if (!replaced || replaced->isEmpty()) return replaced.has_value();
+  switchTo(destination_, Printer::copyOf(*session_));
+  warn(this, *replaced + ' ' + tr("Its settings are shown anew: look at them, and save again."));
+  return false;
+}
+
 std::optional<std::vector<host::OptionChoice>> SettingsDialog::settings() {
   if (!pages()->print()) return {};
-  host::JobOptions options(queue_->options());
+  host::JobOptions options(kept_);
   options.carry(*session_);
   return options.kept();
 }

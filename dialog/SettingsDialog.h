@@ -1,12 +1,15 @@
 // A person's own settings of the printers, without a document.
 #pragma once
 
+#include <future>
+#include <memory>
 #include <optional>
 #include <vector>
 
 #include "dialog/PanelDialog.h"
 #include "dialog/PresetRow.h"
-#include "queue/PrintQueue.h"
+#include "dialog/Printer.h"
+#include "dialog/Question.h"
 
 class QComboBox;
 
@@ -19,7 +22,6 @@ class SettingsDialog final : public PanelDialog {
 
 public:
   /// Shows the printer or preset `destination` ("photo/glossy") at first, and offers `queues`.
-  /// Throws `JobError` when its server does not answer.
   SettingsDialog(PlugInModule &module, const QStringList &queues, const QString &destination,
                  QWidget *parent = nullptr);
 
@@ -31,14 +33,21 @@ public:
   const std::optional<std::vector<host::OptionChoice>> &saved() const { return saved_; }
   const QString &destination() const { return destination_; }
 
+  /// Returns why the settings of the chosen printer are not shown; empty when they are, or it has
+  /// none.
+  const QString &problem() const { return problem_; }
+
 private:
-  void showSettingsOf(const QString &destination);
-  void switchTo(const QString &destination);
+  void switchTo(const QString &destination, const Prepare &prepare = {});
+  void showSettings(std::future<Printer> answer, const Prepare &prepare);
+  bool hasSamePpd();
   std::optional<std::vector<host::OptionChoice>> settings();
 
   QComboBox *printers_;
   QString destination_;
-  std::optional<host::PrintQueue> queue_;  // none when it could not be asked
+  std::unique_ptr<Question> question_;
+  QString problem_;
+  std::vector<host::OptionChoice> kept_;  // what is saved for it
   std::shared_ptr<host::PpdSession> session_;
   std::unique_ptr<PresetRow> presets_;
   std::optional<std::vector<host::OptionChoice>> saved_;

@@ -48,7 +48,7 @@ std::string serverName() {
 
 }  // namespace
 
-CupsConnection::CupsConnection(std::function<bool()> goesOn)
+CupsConnection::CupsConnection(GoesOn goesOn)
     : goesOn_(std::move(goesOn)), seconds_(answerSeconds()) {
   begin();
   const bool isKnown = hasAddress();

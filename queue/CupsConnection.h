@@ -4,11 +4,11 @@
 #include <cups/cups.h>
 
 #include <chrono>
-#include <functional>
 #include <memory>
 #include <string>
 
 #include "host/Stream.h"
+#include "queue/ThreadAccess.h"
 
 namespace kwopde::host {
 
@@ -25,9 +25,9 @@ using IppMessage = std::unique_ptr<ipp_t, DeleteIpp>;
 class CupsConnection {
 public:
   /// Calls `goesOn` about every 50 ms while it waits; once that is false, an answer on its way has
-  /// 0.4 s left to arrive. An empty function goes on. Throws `JobError` when there is no server,
-  /// and `Error` when KWOPDE_TIMEOUT is not a number of seconds.
-  explicit CupsConnection(std::function<bool()> goesOn = {});
+  /// 0.4 s left to arrive. Throws `JobError` when there is no server, and `Error` when
+  /// KWOPDE_TIMEOUT is not a number of seconds.
+  explicit CupsConnection(GoesOn goesOn = {});
   CupsConnection(const CupsConnection &) = delete;
   CupsConnection &operator=(const CupsConnection &) = delete;
 
@@ -64,7 +64,7 @@ private:
   bool canRepeat(const char *method, const std::string &resource);
   [[noreturn]] void fail() const;
 
-  std::function<bool()> goesOn_;
+  GoesOn goesOn_;
   int seconds_;
   std::chrono::steady_clock::time_point deadline_;
   std::size_t received_ = 0;  // bytes of the current answer

@@ -56,7 +56,7 @@ private:
 class Destinations {
 public:
   /// Throws `JobError` when the server does not tell of `queue`.
-  explicit Destinations(const std::string &queue) : queue_(queue) {
+  Destinations(const std::string &queue, const GoesOn &goesOn) : server_(goesOn), queue_(queue) {
     const NoOtherConnection only;
     count_ = cupsGetDests2(server_.get(), &list_);
     if (find({})) return;
@@ -118,8 +118,8 @@ private:
 /// leaves out what the server gives every job, though the queue's own saved options hold another
 /// choice.
 void expectSaved(const std::string &queue, const std::string &name,
-                 const std::vector<OptionChoice> &options) {
-  const Destinations written(queue);
+                 const std::vector<OptionChoice> &options, const GoesOn &goesOn) {
+  const Destinations written(queue, goesOn);
   const cups_dest_t *dest = written.find(name);
   for (const auto &[key, choice] : options) {
     const char *kept =
@@ -133,21 +133,21 @@ void expectSaved(const std::string &queue, const std::string &name,
 }  // namespace
 
 std::vector<std::string> Presets::names() const {
-  return Destinations(queue_).instances();
+  return Destinations(queue_, goesOn_).instances();
 }
 
 void Presets::save(const std::string &name, const std::vector<OptionChoice> &options) const {
   if (!name.empty() && !isName(name)) throw Error(fmt::format("{}: not a name for a preset", name));
   const Lock lock;
-  Destinations destinations(queue_);
+  Destinations destinations(queue_, goesOn_);
   destinations.set(name, options);
   destinations.write();
-  expectSaved(queue_, name, options);
+  expectSaved(queue_, name, options, goesOn_);
 }
 
 void Presets::remove(const std::string &name) const {
   const Lock lock;
-  Destinations destinations(queue_);
+  Destinations destinations(queue_, goesOn_);
   if (name.empty())
     destinations.set({}, {});
   else

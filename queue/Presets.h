@@ -6,13 +6,15 @@
 #include <vector>
 
 #include "host/OptionChoice.h"
+#include "queue/ThreadAccess.h"
 
 namespace kwopde::host {
 
 class Presets {
 public:
   /// `queue` is the name on the server, without an instance.
-  explicit Presets(std::string queue) : queue_(std::move(queue)) {}
+  explicit Presets(std::string queue, GoesOn goesOn = {})
+      : queue_(std::move(queue)), goesOn_(std::move(goesOn)) {}
 
   /// Returns the names, in order. Throws `JobError` when the server does not answer.
   std::vector<std::string> names() const;
@@ -33,6 +35,7 @@ public:
 
 private:
   std::string queue_;
+  GoesOn goesOn_;
 };
 
 }  // namespace kwopde::host

@@ -47,12 +47,12 @@ std::string nameOfPpd(const std::string &queue) {
 
 /// Fetches the PPD of a printer, or of the first one of a class; null when there is none. Throws
 /// `JobError` when it did not come whole.
-Stream fetchPpd(const std::string &queue) {
+Stream fetchPpd(const std::string &queue, const GoesOn &goesOn) {
   const auto fetch = [](CupsConnection &server, const std::string &printer) {
     return server.fetch("/printers/" + printer + ".ppd");
   };
   try {
-    CupsConnection server;
+    CupsConnection server(goesOn);
     Stream ppd = fetch(server, queue);
     if (!ppd)
       if (const std::string member = firstMember(server, queue); !member.empty())
@@ -83,8 +83,8 @@ void expectAnswer(CupsConnection &server) {
 
 }  // namespace
 
-PrintQueue::PrintQueue(const std::string &name) {
-  CupsConnection server;
+PrintQueue::PrintQueue(const std::string &name, const GoesOn &goesOn) {
+  CupsConnection server(goesOn);
   // The library takes a server that does not answer for one without that printer.
   expectAnswer(server);
   const auto slash = std::min(name.find('/'), name.size());
@@ -130,8 +130,8 @@ std::vector<std::string> PrintQueue::names(std::string_view models) {
   return {names.begin(), names.end()};
 }
 
-std::vector<OptionChoice> PrintQueue::defaults() const {
-  CupsConnection server;
+std::vector<OptionChoice> PrintQueue::defaults(const GoesOn &goesOn) const {
+  CupsConnection server(goesOn);
   const IppMessage answer = server.ask(requestAbout(name_, IPP_OP_GET_PRINTER_ATTRIBUTES), "/");
   std::vector<OptionChoice> defaults;
   for (ipp_attribute_t *attribute = ippFirstAttribute(answer.get()); attribute;
@@ -146,8 +146,14 @@ std::vector<OptionChoice> PrintQueue::defaults() const {
   return defaults;
 }
 
+void PrintQueue::fetch(const GoesOn &goesOn) {
+  ppd_ = fetchPpd(name_, goesOn);
+  defaults_ = defaults(goesOn);
+}
+
 std::shared_ptr<PpdSession> PrintQueue::openSession() const {
-  const Stream ppd = fetchPpd(name_);
+  const Stream asked = ppd_ ? Stream() : fetchPpd(name_, {});
+  std::FILE *const ppd = ppd_ ? ppd_->get() : asked.get();
   if (!ppd)
     throw Error(
         fmt::format("the printer {} has no PPD, so it has no panels: choose another, or "
@@ -157,8 +163,8 @@ std::shared_ptr<PpdSession> PrintQueue::openSession() const {
   std::string language = cupsLangDefault()->language;
   auto spare = std::exchange(sparePpd(), {});
   if (!spare || spare->language != language ||
-      spare->ppd.fingerprint() != PpdFile::fingerprintOf(ppd.get(), name))
-    spare = {language, PpdFile::read(ppd.get(), name)};
+      spare->ppd.fingerprint() != PpdFile::fingerprintOf(ppd, name))
+    spare = {language, PpdFile::read(ppd, name)};
   // Nothing here needs memory, and so nothing fails: a job may have been sent.
   auto keep = [language = std::move(language)](PpdSession *dropped) mutable {
     sparePpd() = {std::move(language), dropped->takePpd()};
@@ -167,12 +173,14 @@ std::shared_ptr<PpdSession> PrintQueue::openSession() const {
   const std::shared_ptr<PpdSession> session(new PpdSession(std::move(spare->ppd)), std::move(keep));
   session->setPrinter(destination());
   session->markSaved(options_);
+  if (!defaults_.empty()) session->setQueueDefaults(defaults_);
   return session;
 }
 
-bool PrintQueue::hasOtherPpd(const std::string &queue, const PpdSession &session) {
-  const Stream ppd = fetchPpd(queue);
-  return ppd && PpdFile::fingerprintOf(ppd.get(), nameOfPpd(queue)) != session.ppd().fingerprint();
+bool PrintQueue::hasOtherPpd(const std::string &queue, std::size_t fingerprint,
+                             const GoesOn &goesOn) {
+  const Stream ppd = fetchPpd(queue, goesOn);
+  return ppd && PpdFile::fingerprintOf(ppd.get(), nameOfPpd(queue)) != fingerprint;
 }
 
 }  // namespace kwopde::host

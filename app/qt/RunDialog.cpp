@@ -2,11 +2,13 @@
 
 #include "app/Output.h"
 #include "dialog/Pictures.h"
+#include "dialog/Question.h"
 
 namespace kwopde::app {
 
 void showAndTakePictures(QDialog &dialog, const std::string &folder) {
   dialog.show();
+  dialog::Question::waitForAll();
   for (const QString &file : dialog::takePictures(dialog, QString::fromStdString(folder)))
     tell("wrote {}", file.toStdString());
 }

@@ -32,6 +32,7 @@ int runSettingsCommand(const SettingsOptions &options) {
   dialog::SettingsDialog dialog(module, queues, first);
   if (!options.snapshotFolder.empty()) {
     showAndTakePictures(dialog, options.snapshotFolder);
+    if (!dialog.problem().isEmpty()) throw host::JobError(dialog.problem().toStdString());
     return kDone;
   }
   if (dialog.exec() != QDialog::Accepted || !dialog.saved()) return kNotDone;

@@ -199,7 +199,11 @@
     </message>
 </context>
 <context>
-    <name>kwopde::dialog::PrintDialogPanels</name>
+    <name>kwopde::dialog::Printer</name>
+    <message>
+        <source>Asking the printer…</source>
+        <translation>جارٍ سؤال الطابعة…</translation>
+    </message>
     <message>
         <source>The printer %1 has got another PPD on its server since this dialog read it.</source>
         <translation>تغيّر ملف PPD للطابعة %1 على خادومها منذ أن قرأه مربّع الحوار هذا.</translation>
@@ -253,6 +257,10 @@
     <message>
         <source>Printer:</source>
         <translation>الطابعة:</translation>
+    </message>
+    <message>
+        <source>Its settings are shown anew: look at them, and save again.</source>
+        <translation>أُعيد عرض إعداداتها: راجعها ثم احفظ مجدّدًا.</translation>
     </message>
 </context>
 <context>

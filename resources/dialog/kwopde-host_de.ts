@@ -198,7 +198,11 @@
     </message>
 </context>
 <context>
-    <name>kwopde::dialog::PrintDialogPanels</name>
+    <name>kwopde::dialog::Printer</name>
+    <message>
+        <source>Asking the printer…</source>
+        <translation>Der Drucker wird gefragt…</translation>
+    </message>
     <message>
         <source>The printer %1 has got another PPD on its server since this dialog read it.</source>
         <translation>Der Drucker %1 hat auf seinem Server eine andere PPD bekommen, seit dieser Dialog sie gelesen hat.</translation>
@@ -252,6 +256,10 @@
     <message>
         <source>Printer:</source>
         <translation>Drucker:</translation>
+    </message>
+    <message>
+        <source>Its settings are shown anew: look at them, and save again.</source>
+        <translation>Seine Einstellungen werden neu gezeigt: Sehen Sie sie an und speichern Sie erneut.</translation>
     </message>
 </context>
 <context>

@@ -199,7 +199,11 @@
     </message>
 </context>
 <context>
-    <name>kwopde::dialog::PrintDialogPanels</name>
+    <name>kwopde::dialog::Printer</name>
+    <message>
+        <source>Asking the printer…</source>
+        <translation>Consultando la impresora…</translation>
+    </message>
     <message>
         <source>The printer %1 has got another PPD on its server since this dialog read it.</source>
         <translation>El PPD de la impresora %1 ha cambiado en su servidor desde que este diálogo lo leyó.</translation>
@@ -253,6 +257,10 @@
     <message>
         <source>Printer:</source>
         <translation>Impresora:</translation>
+    </message>
+    <message>
+        <source>Its settings are shown anew: look at them, and save again.</source>
+        <translation>Sus ajustes se muestran de nuevo: revíselos y vuelva a guardar.</translation>
     </message>
 </context>
 <context>

@@ -199,7 +199,11 @@
     </message>
 </context>
 <context>
-    <name>kwopde::dialog::PrintDialogPanels</name>
+    <name>kwopde::dialog::Printer</name>
+    <message>
+        <source>Asking the printer…</source>
+        <translation>Interrogation de l'imprimante…</translation>
+    </message>
     <message>
         <source>The printer %1 has got another PPD on its server since this dialog read it.</source>
         <translation>Le PPD de l'imprimante %1 a changé sur son serveur depuis que ce dialogue l'a lu.</translation>
@@ -253,6 +257,10 @@
     <message>
         <source>Printer:</source>
         <translation>Imprimante :</translation>
+    </message>
+    <message>
+        <source>Its settings are shown anew: look at them, and save again.</source>
+        <translation>Ses paramètres sont affichés de nouveau : vérifiez-les et enregistrez à nouveau.</translation>
     </message>
 </context>
 <context>

@@ -199,7 +199,11 @@
     </message>
 </context>
 <context>
-    <name>kwopde::dialog::PrintDialogPanels</name>
+    <name>kwopde::dialog::Printer</name>
+    <message>
+        <source>Asking the printer…</source>
+        <translation>Richiesta alla stampante…</translation>
+    </message>
     <message>
         <source>The printer %1 has got another PPD on its server since this dialog read it.</source>
         <translation>Il PPD della stampante %1 è cambiato sul suo server da quando questa finestra lo ha letto.</translation>
@@ -253,6 +257,10 @@
     <message>
         <source>Printer:</source>
         <translation>Stampante:</translation>
+    </message>
+    <message>
+        <source>Its settings are shown anew: look at them, and save again.</source>
+        <translation>Le sue impostazioni sono mostrate di nuovo: controllale e salva di nuovo.</translation>
     </message>
 </context>
 <context>

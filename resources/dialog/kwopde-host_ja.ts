@@ -199,7 +199,11 @@
     </message>
 </context>
 <context>
-    <name>kwopde::dialog::PrintDialogPanels</name>
+    <name>kwopde::dialog::Printer</name>
+    <message>
+        <source>Asking the printer…</source>
+        <translation>プリンターに問い合わせています…</translation>
+    </message>
     <message>
         <source>The printer %1 has got another PPD on its server since this dialog read it.</source>
         <translation>このダイアログが読み込んだ後に、プリンタ %1 の PPD がサーバ上で変更されました。</translation>
@@ -253,6 +257,10 @@
     <message>
         <source>Printer:</source>
         <translation>プリンタ:</translation>
+    </message>
+    <message>
+        <source>Its settings are shown anew: look at them, and save again.</source>
+        <translation>設定を表示し直しました。確認してから、もう一度保存してください。</translation>
     </message>
 </context>
 <context>

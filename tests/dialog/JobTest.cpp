@@ -378,29 +378,41 @@ TEST_F(DialogJobs, ShareWhatQtsPropertiesHold) {
               testing::HasSubstr("together with Media Size: 8x10"));
 }
 
+// Nor does the settings dialog save them.
 TEST_F(DialogJobs, AreNotSentWithTheOptionsOfAPpdThatWasReplaced) {
+  /// Accepts `dialog` once the PPD has been replaced, and once more.
+  const auto acceptTwice = [this](QDialog &dialog) {
+    QTest::keyClick(&widget<QComboBox>(dialog, "printQualityPopUp"), Qt::Key_Home);
+    const std::string replaced = folder_.write(
+        "replaced.ppd", std::regex_replace(contents(ppd_), std::regex("/Matte:"), "/Velvet:"));
+    run("lpadmin -p jobs -P " + written(replaced));
+    QString told;
+    QTimer::singleShot(100, &dialog, [&] {
+      auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+      told = box->text();
+      box->button(QMessageBox::Close)->click();
+    });
+    dialog.accept();
+    EXPECT_TRUE(dialog.isVisible());
+    EXPECT_THAT(told.toStdString(), testing::HasSubstr("jobs has got another PPD"));
+    QTest::qWait(10);
+    EXPECT_GE(widget<QComboBox>(dialog, "printFinishPopUp").findText("Velvet"), 0);
+    dialog.accept();
+    EXPECT_FALSE(dialog.isVisible());
+  };
   given("", "");
   printer_.setPrinterName("jobs");
   dialog::QueueDialog dialog(dialog::loadModule(), printer_, {document_});
   show(dialog, 2);
-  QTest::keyClick(&widget<QComboBox>(dialog, "printQualityPopUp"), Qt::Key_Home);
-  const std::string replaced = folder_.write(
-      "replaced.ppd", std::regex_replace(contents(ppd_), std::regex("/Matte:"), "/Velvet:"));
-  run("lpadmin -p jobs -P " + written(replaced));
-  QString told;
-  QTimer::singleShot(100, &dialog, [&] {
-    auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-    told = box->text();
-    box->button(QMessageBox::Close)->click();
-  });
-  dialog.accept();
-  EXPECT_TRUE(dialog.isVisible() && !dialog.jobId());
-  EXPECT_THAT(told.toStdString(), testing::HasSubstr("jobs has got another PPD"));
-  QTest::qWait(10);
-  EXPECT_GE(widget<QComboBox>(dialog, "printFinishPopUp").findText("Velvet"), 0);
-  dialog.accept();
+  acceptTwice(dialog);
   ASSERT_TRUE(dialog.jobId());
   EXPECT_THAT(carriedBy(*dialog.jobId()), Contains(Pair("printQuality", "Draft")));
+
+  given("", "");
+  dialog::SettingsDialog settings(dialog::loadModule(), {"jobs"}, "jobs");
+  settings.show();
+  acceptTwice(settings);
+  EXPECT_THAT(byLp("-d jobs"), Contains(Pair("printQuality", "Draft")));
 }
 
 class Presets : public DialogJobs {
