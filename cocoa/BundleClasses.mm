@@ -73,6 +73,7 @@ NSString *constantString(std::string_view text) {
 class CocoaSummary final : public NativeObject<kwopde::Dictionary> {
 public:
   using NativeObject::NativeObject;
+  // NOLINTNEXTLINE(bugprone-parent-virtual-call): not as a native object shows itself.
   void appendDescription(std::string &out) const override { Dictionary::appendDescription(out); }
 };
 

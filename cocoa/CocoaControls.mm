@@ -11,7 +11,7 @@ namespace {
 void disconnectBelow(NSView *view, id target) {
   if ([view isKindOfClass:[NSControl class]] && [(NSControl *)view target] == target) {
     [(NSControl *)view setTarget:nil];
-    [(NSControl *)view setAction:NULL];
+    [(NSControl *)view setAction:nullptr];
   }
   forEach<NSView>([[view subviews] objectEnumerator],
                   [&](NSView *below) { disconnectBelow(below, target); });
@@ -36,7 +36,7 @@ void CocoaPopUpButton::addItem(MenuItem item) {
   NSString *title = item.title ? stringFrom(*item.title) : nil;
   // Through the menu: the button itself drops an earlier item of the same title.
   NSMenuItem *added = [[[NSMenuItem alloc] initWithTitle:title ? title : @""
-                                                  action:NULL
+                                                  action:nullptr
                                            keyEquivalent:@""] autorelease];
   [added setRepresentedObject:nativeOf(item.representedObject.get())];
   [[view_ menu] addItem:added];

@@ -7,7 +7,6 @@
 #include "cocoa/Strings.h"
 #include "host/Error.h"
 
-using kwopde::cocoa::stringFrom;
 using kwopde::cocoa::textOf;
 
 /// The host's callback object, for a session of ours.
