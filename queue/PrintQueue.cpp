@@ -12,6 +12,7 @@
 
 #include "host/Error.h"
 #include "queue/CupsConnection.h"
+#include "queue/Presets.h"
 
 namespace kwopde::host {
 
@@ -76,6 +77,12 @@ bool hasPrinter(CupsConnection &server, const std::string &queue) {
   return faultIn(server.ask(question, "/")).empty();
 }
 
+bool hasPreset(const std::string &queue, const std::string &preset, const GoesOn &goesOn) {
+  const auto names = Presets(queue, goesOn).names();
+  return std::any_of(names.begin(), names.end(),
+                     [&](const std::string &name) { return isSameKey(name, preset); });
+}
+
 /// Throws `JobError` when `server` does not answer.
 void expectAnswer(CupsConnection &server) {
   hasPrinter(server, {});
@@ -112,6 +119,10 @@ PrintQueue::PrintQueue(const std::string &name, const GoesOn &goesOn) {
   for (int i = 0; i < dest->num_options; ++i)
     options_.push_back({dest->options[i].name, dest->options[i].value});
   cupsFreeDests(1, dest);
+  // The library makes an instance of every name.
+  if (!instance.empty() && !hasPreset(name_, instance, goesOn))
+    throw Error(
+        fmt::format("the printer {} has no preset {}: lpstat -e lists them", name_, instance));
 }
 
 std::vector<std::string> PrintQueue::names(std::string_view models) {

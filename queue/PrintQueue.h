@@ -16,8 +16,8 @@ namespace kwopde::host {
 class PrintQueue {
 public:
   /// Finds the queue called `name` ("photo-printer"), an instance of it ("photo-printer/glossy"),
-  /// or the user's default with an empty name. Throws `Error` when there is none, and `JobError`
-  /// when there is no server or it does not answer, or `goesOn` ended the waiting.
+  /// or the user's default with an empty name. Throws `Error` when there is no such one, and
+  /// `JobError` when there is no server or it does not answer, or `goesOn` ended the waiting.
   explicit PrintQueue(const std::string &name, const GoesOn &goesOn = {});
 
   /// Returns the names of the queues that the server has, in order; with `models`, of those whose

@@ -117,6 +117,7 @@ TEST(Queue, SaysWhatIsInTheWay) {
   };
   const auto always = [](auto, auto) { return true; };
   EXPECT_THAT(why([] { PrintQueue("nowhere"); }), HasSubstr("there is no printer nowhere"));
+  EXPECT_THAT(why([] { PrintQueue("kwo-1200/none"); }), HasSubstr("kwo-1200 has no preset none"));
   EXPECT_THAT(why([&] { host::send({"kwo-1200", "", {"/nope"}, {}}, always); }),
               "/nope: No such file or directory");
   EXPECT_THAT(why([&] { host::send({"nowhere", "", {document("a.txt", "a")}, {}}, always); }),
