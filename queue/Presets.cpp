@@ -25,6 +25,7 @@ using namespace std::chrono_literals;
 
 constexpr std::size_t kLongestName = 127;
 constexpr auto kLockTime = 10s;
+constexpr int kMostRepeats = 3;  // of a question whose answer was lost
 
 /// While it lives, no other process that has one writes saved options. It locks the person's home
 /// folder, which leaves no file behind.
@@ -101,10 +102,13 @@ public:
 
   void write() {
     const NoOtherConnection only;
-    errno = 0;
-    if (cupsSetDests2(server_.get(), count_, list_) != 0)
-      throw Error(fmt::format("the settings could not be saved: {}",
-                              errno ? std::strerror(errno) : cupsLastErrorString()));
+    // The library asks for the printers once more before it writes.
+    for (int repeats = 0; cupsSetDests2(server_.get(), count_, list_) != 0; ++repeats) {
+      const bool isAnswered = cupsLastError() < IPP_STATUS_REDIRECTION_OTHER_SITE;
+      const char *const why = isAnswered ? std::strerror(errno) : cupsLastErrorString();
+      if (isAnswered || repeats == kMostRepeats)
+        throw Error(fmt::format("the settings could not be saved: {}", why));
+    }
   }
 
 private:
