@@ -25,7 +25,7 @@ using namespace std::chrono_literals;
 
 constexpr std::size_t kLongestName = 127;
 constexpr auto kLockTime = 10s;
-constexpr int kMostRepeats = 3;  // of a question whose answer was lost
+constexpr int kMostWrites = 4;  // of settings, when an answer was lost
 
 /// While it lives, no other process that has one writes saved options. It locks the person's home
 /// folder, which leaves no file behind.
@@ -103,10 +103,10 @@ public:
   void write() {
     const NoOtherConnection only;
     // The library asks for the printers once more before it writes.
-    for (int repeats = 0; cupsSetDests2(server_.get(), count_, list_) != 0; ++repeats) {
+    for (int writes = 1; cupsSetDests2(server_.get(), count_, list_) != 0; ++writes) {
       const bool isAnswered = cupsLastError() < IPP_STATUS_REDIRECTION_OTHER_SITE;
       const char *const why = isAnswered ? std::strerror(errno) : cupsLastErrorString();
-      if (isAnswered || repeats == kMostRepeats)
+      if (isAnswered || writes == kMostWrites)
         throw Error(fmt::format("the settings could not be saved: {}", why));
     }
   }
