@@ -76,13 +76,11 @@ void PrintDialogPanels::showPanelsOf(const QString &printer, const Prepare &prep
     return showPages();
   }
   if (printer.isEmpty()) return;
-  const auto ask = [name = printer.toStdString()](const host::GoesOn &goesOn) {
-    return Printer::find(name, goesOn);
-  };
-  question_ = std::make_unique<Question>(ask, [this, prepare](std::future<Printer> answer) {
-    keep(std::move(answer), prepare);
-    showPages();
-  });
+  question_ = std::make_unique<Question>(std::bind_front(&Printer::find, printer.toStdString()),
+                                         [this, prepare](std::future<Printer> answer) {
+                                           keep(std::move(answer), prepare);
+                                           showPages();
+                                         });
 }
 
 void PrintDialogPanels::keep(std::future<Printer> answer, const Prepare &prepare) {

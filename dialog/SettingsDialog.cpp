@@ -29,12 +29,9 @@ void SettingsDialog::switchTo(const QString &destination, const Prepare &prepare
   destination_ = destination;
   problem_ = Printer::tr("Asking the printer…");
   showInstead(problem_);
-  const auto ask = [name = destination.toStdString()](const host::GoesOn &goesOn) {
-    return Printer::find(name, goesOn);
-  };
-  question_ = std::make_unique<Question>(ask, [this, prepare](std::future<Printer> answer) {
-    showSettings(std::move(answer), prepare);
-  });
+  question_ = std::make_unique<Question>(
+      std::bind_front(&Printer::find, destination.toStdString()),
+      [this, prepare](std::future<Printer> answer) { showSettings(std::move(answer), prepare); });
 }
 
 void SettingsDialog::showSettings(std::future<Printer> answer, const Prepare &prepare) {
