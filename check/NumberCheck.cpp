@@ -45,8 +45,8 @@ std::string keywordOf(Kind kind, double number) {
                                : fmt::format("{:.6f}", number);
 }
 
-std::string keywordSaved(Kind kind, double shown) {
-  return keywordOf(kind, kind == Kind::integer ? shown : cutToHundredths(shown));
+double numberSaved(Kind kind, double shown) {
+  return kind == Kind::integer ? shown : cutToHundredths(shown);
 }
 
 /// The numbers that an option takes.
@@ -62,11 +62,6 @@ public:
 
   bool take(double number) const {
     return listed_.contains(number) || (limits_ && host::isWithin(*limits_, number));
-  }
-
-  bool take(const std::string &keyword) const {
-    const auto number = host::wholeNumber(keyword);
-    return number && take(*number);
   }
 
   bool isEmpty() const { return listed_.empty() && !limits_; }
@@ -145,7 +140,8 @@ void checkNumbers(ppd_file_t *ppd, ppd_option_t &option, const PanelOption &row,
     const std::string_view keyword = lines.asWritten(choice.choice);
     const auto number = host::wholeNumber(keyword);
     if (!number) {
-      tell(kNoNumber, keyword, keywordSaved(row.kind, numberShown(row.kind, choice.text)));
+      const double saved = numberSaved(row.kind, numberShown(row.kind, choice.text));
+      tell(kNoNumber, keyword, keywordOf(row.kind, saved));
       continue;
     }
     listed.emplace_back(&choice, *number);
@@ -155,12 +151,12 @@ void checkNumbers(ppd_file_t *ppd, ppd_option_t &option, const PanelOption &row,
   }
   for (const auto &[choice, number] : listed) {
     if (numberShown(row.kind, choice->text) != number) continue;  // told with the texts
-    const std::string saved = keywordSaved(row.kind, number);
+    const double saved = numberSaved(row.kind, number);
     const bool isHundredth = std::abs(std::round(number * 100) - number * 100) < 1e-6;
     if (!numbers.take(saved))
-      tell(kNotSaved, choice->choice, saved);
+      tell(kNotSaved, choice->choice, keywordOf(row.kind, saved));
     else if (!isHundredth)
-      tell(kSavedAsOther, choice->choice, saved);
+      tell(kSavedAsOther, choice->choice, keywordOf(row.kind, saved));
   }
   if (slider && !numbers.isEmpty()) checkReach(numbers, row, *slider, lines, findings);
 }

@@ -1,6 +1,10 @@
 #include "check/PpdLines.h"
 
+#include <stdio.h>  // getline
+
 #include <algorithm>
+#include <cstdlib>
+#include <memory>
 #include <sstream>
 
 #include "host/MarkableChoice.h"
@@ -9,24 +13,32 @@ namespace kwopde::check {
 
 namespace {
 
-constexpr std::string_view kBlanks = " \t\r\n";
-
-std::string_view trimmed(std::string_view text) {
-  text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
-  return text.substr(0, text.find_last_not_of(kBlanks) + 1);
+constexpr bool isLineEnd(char c) {
+  return c == '\n' || c == '\r';
 }
 
-/// Returns what stands before the first of `ends`, and leaves what comes after it in `rest`.
-std::string_view take(std::string_view &rest, std::string_view ends) {
-  const auto end = std::min(rest.find_first_of(ends), rest.size());
-  const auto taken = rest.substr(0, end);
-  rest.remove_prefix(end);
+constexpr bool isBlank(char c) {
+  return c == ' ' || c == '\t' || isLineEnd(c);
+}
+
+std::string_view trimmed(std::string_view text) {
+  while (!text.empty() && isBlank(text.front())) text.remove_prefix(1);
+  while (!text.empty() && isBlank(text.back())) text.remove_suffix(1);
+  return text;
+}
+
+/// Returns what stands before the first byte that is an end, and leaves the rest in `rest`.
+template <class IsEnd>
+std::string_view take(std::string_view &rest, IsEnd isEnd) {
+  const auto end = std::find_if(rest.begin(), rest.end(), isEnd);
+  const auto taken = rest.substr(0, static_cast<std::size_t>(end - rest.begin()));
+  rest.remove_prefix(taken.size());
   return taken;
 }
 
 /// Returns a text with its hexadecimal parts, "<C3A9>", as the bytes that they stand for.
 std::string decoded(std::string_view text) {
-  if (text.find_first_of("<>") == text.npos) return std::string(text);
+  if (text.find('<') == text.npos && text.find('>') == text.npos) return std::string(text);
   constexpr std::string_view kDigits = "0123456789abcdefABCDEF";
   std::string bytes;
   int half = -1;
@@ -54,11 +66,11 @@ struct Statement {
   std::string_view value;  // without its quotes
 
   explicit Statement(std::string_view line) {
-    keyword = take(line, ": \t\r\n");
-    option = trimmed(take(line, ":/"));
+    keyword = take(line, [](char c) { return c == ':' || isBlank(c); });
+    option = trimmed(take(line, [](char c) { return c == ':' || c == '/'; }));
     if (line.starts_with('/')) {
       line.remove_prefix(1);
-      text = trimmed(take(line, ":"));
+      text = trimmed(take(line, [](char c) { return c == ':'; }));
     }
     if (!line.empty()) line.remove_prefix(1);
     value = trimmed(line);
@@ -89,31 +101,48 @@ public:
   }
 
 private:
+  /// Reads a line, and those after it while a value's quote is open.
   bool readLine(std::string &text, int &line) {
     text.clear();
     line = line_ + 1;
     bool hasValue = false;
     bool isQuoted = false;
-    int c = 0;
-    while ((c = getc_unlocked(file_)) != EOF) {
-      const bool isEnd = c == '\n' || c == '\r';
-      if (isEnd) {
-        if (c == '\r') skipLineFeed();
-        ++line_;
-        if (!isQuoted) return true;
-      }
-      if (c == ':' && !text.starts_with("*%")) hasValue = true;
-      if (c == '"' && hasValue) isQuoted = !isQuoted;
-      text += static_cast<char>(c);
+    for (std::string_view part; readPart(part);) {
+      text += part;
+      if (text.starts_with("*%")) return true;
+      const auto value = hasValue ? 0 : part.find(':');
+      hasValue = value != part.npos;
+      for (auto quote = part.find('"', value); quote != part.npos;
+           quote = part.find('"', quote + 1))
+        isQuoted = !isQuoted;
+      if (!isQuoted) return true;
+      text += '\n';
     }
     return !text.empty();
   }
 
-  void skipLineFeed() {
-    const int c = getc_unlocked(file_);
-    if (c != '\n' && c != EOF) std::ungetc(c, file_);
+  /// Reads what stands before the next end of a line; it is there until the next call.
+  bool readPart(std::string_view &part) {
+    if (rest_.empty()) {
+      char *buffer = buffer_.release();
+      const auto size = getline(&buffer, &capacity_, file_);
+      buffer_.reset(buffer);
+      if (size < 0) return false;
+      rest_ = {buffer, static_cast<std::size_t>(size)};
+    }
+    part = take(rest_, isLineEnd);
+    rest_.remove_prefix(rest_.starts_with("\r\n") ? 2 : std::min<std::size_t>(rest_.size(), 1));
+    ++line_;
+    return true;
   }
 
+  struct Free {
+    void operator()(char *memory) const { std::free(memory); }
+  };
+
+  std::unique_ptr<char, Free> buffer_;
+  std::size_t capacity_ = 0;
+  std::string_view rest_;  // of the buffer
   std::FILE *file_;
   int line_ = 0;
 };
@@ -166,9 +195,14 @@ std::vector<host::OptionChoice> membersOf(std::string_view value) {
 
 bool KeywordLess::operator()(std::string_view a, std::string_view b) const {
   const auto inLowerCase = [](char c) { return c >= 'A' && c <= 'Z' ? c - 'A' + 'a' : c; };
-  return std::lexicographical_compare(
-      a.begin(), a.end(), b.begin(), b.end(),
-      [&](char one, char other) { return inLowerCase(one) < inLowerCase(other); });
+  const std::size_t shorter = std::min(a.size(), b.size());
+  for (std::size_t i = 0; i < shorter; ++i) {
+    if (a[i] == b[i]) continue;
+    const auto one = inLowerCase(a[i]);
+    const auto other = inLowerCase(b[i]);
+    if (one != other) return one < other;
+  }
+  return a.size() < b.size();
 }
 
 std::string_view PpdLines::Option::asWritten(std::string_view keyword) const {

@@ -109,6 +109,9 @@ void checkTexts(const ppd_option_t &option, const PanelOption &row, const PpdLin
   checkText(option.text, lines.titleLength, {row.key, {}, lines.line()}, findings);
   const bool isMenu = row.kind == PanelOption::Kind::choice;
   Texts texts;
+  const bool isTranslated =
+      std::any_of(lines.translations.begin(), lines.translations.end(),
+                  [](const PpdLines::Translation &given) { return !given.choice.empty(); });
   KeywordMap<const ppd_choice_t *> choices;
   const auto add = [&](const ppd_choice_t &choice, std::string_view text, std::size_t length,
                        const FaultyChoice &place) {
@@ -122,7 +125,7 @@ void checkTexts(const ppd_option_t &option, const PanelOption &row, const PpdLin
   for (int i = 0; i < option.num_choices; ++i) {
     const ppd_choice_t &choice = option.choices[i];
     const std::string_view keyword = lines.asWritten(choice.choice);
-    if (!lines.translations.empty()) choices.try_emplace(std::string(keyword), &choice);
+    if (isTranslated) choices.try_emplace(std::string(keyword), &choice);
     const auto *given = lines.choice(keyword);
     add(choice, choice.text, given ? given->textLength : 0,
         {row.key, keyword, lines.lineOf(given)});
