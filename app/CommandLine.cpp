@@ -61,16 +61,21 @@ CLI::Option *addTarget(CLI::App &command, const Option &option, bool *target) {
   return command.add_flag(option.names, *target, option.description);
 }
 
+void addOptions(CLI::App &added, const Command &command) {
+  for (const Option &option : command.options) {
+    CLI::Option *row =
+        std::visit([&](auto *target) { return addTarget(added, option, target); }, option.target);
+    if (option.description.empty()) row->group("");
+    if (!option.excludes.empty()) row->excludes(added.get_option(option.excludes));
+    addCheck(*row, option.check);
+  }
+}
+
+/// `command` has to stay until all is parsed: its options are added once it is met.
 void add(CLI::App &commandLine, const Command &command) {
   CLI::App *added = commandLine.add_subcommand(command.name, command.description);
   if (command.description.empty()) added->group("");
-  for (const Option &option : command.options) {
-    CLI::Option *row =
-        std::visit([&](auto *target) { return addTarget(*added, option, target); }, option.target);
-    if (option.description.empty()) row->group("");
-    if (!option.excludes.empty()) row->excludes(added->get_option(option.excludes));
-    addCheck(*row, option.check);
-  }
+  added->preparse_callback([added, &command](std::size_t) { addOptions(*added, command); });
 }
 
 /// Throws `host::Error` when the arguments do not begin with a command or an option.
