@@ -86,9 +86,15 @@ QAbstractSpinBox::StepEnabled NumberBox::stepEnabled() const {
 }
 
 QSize NumberBox::sizeHint() const {
+  if (sizeHint_.isValid()) return sizeHint_;
   const QSize empty = QAbstractSpinBox::sizeHint();
-  return {empty.width() + fontMetrics().horizontalAdvance("-1000.00 ") + unit_->sizeHint().width(),
-          empty.height()};
+  const int letters = fontMetrics().horizontalAdvance("-1000.00 ") + unit_->sizeHint().width();
+  return sizeHint_ = {empty.width() + letters, empty.height()};
+}
+
+void NumberBox::changeEvent(QEvent *event) {
+  sizeHint_ = QSize();  // of a font or a style
+  QAbstractSpinBox::changeEvent(event);
 }
 
 bool NumberBox::eventFilter(QObject *watched, QEvent *event) {

@@ -51,6 +51,7 @@ signals:
 
 protected:
   StepEnabled stepEnabled() const override;
+  void changeEvent(QEvent *event) override;
 
 private:
   double next(int steps) const;
@@ -61,6 +62,7 @@ private:
   std::optional<host::NumberRange> range_;
   std::vector<double> only_;
   QLabel *unit_;
+  mutable QSize sizeHint_;  // layouts ask often
 };
 
 }  // namespace kwopde::dialog

@@ -151,11 +151,12 @@ std::optional<double> OptionRow::defaultNumber() const {
 }
 
 void OptionRow::withholdCustom() {
+  if (!menu_) return;
   const ppd_option_t *option = ppdFindOption(session_.ppd().get(), option_.key.c_str());
-  auto *model = menu_ ? qobject_cast<QStandardItemModel *>(menu_->model()) : nullptr;
-  auto *list = menu_ ? qobject_cast<QListView *>(menu_->view()) : nullptr;
-  if (!option || !model || !list || !ppdFindCustomOption(session_.ppd().get(), option->keyword))
-    return;
+  if (!option || !ppdFindCustomOption(session_.ppd().get(), option->keyword)) return;
+  auto *model = qobject_cast<QStandardItemModel *>(menu_->model());
+  auto *list = qobject_cast<QListView *>(menu_->view());
+  if (!model || !list) return;
   // The panel fills its menu anew, in the PPD's order.
   for (int i = 0; i < std::min(option->num_choices, model->rowCount()); ++i) {
     const bool isCustom = std::string_view(option->choices[i].choice) == host::kCustom;
