@@ -121,11 +121,10 @@ void OptionRow::prepareCaption() {
       caption_ = label;
   if (!caption_) return;
   // Room for bold letters, so that nothing moves.
-  QFont bold;
+  QFont bold = caption_->font();
   bold.setBold(true);
-  caption_->setFont(bold);
-  caption_->setMinimumWidth(caption_->sizeHint().width());
-  caption_->setFont(QFont());
+  caption_->setMinimumWidth(
+      QFontMetrics(bold).size(Qt::TextShowMnemonic, caption_->text()).width());
 }
 
 QString OptionRow::number() const {

@@ -140,6 +140,11 @@ TEST_F(Choice, IndexIsThatOfTheVeryObject) {
   EXPECT_EQ(IndexOfChoiceIdenticalTo(&equal, choices_.get()), std::nullopt);
   EXPECT_EQ(IndexOfChoiceIdenticalTo(nullptr, choices_.get()), std::nullopt);
   EXPECT_EQ(IndexOfChoiceIdenticalTo(&equal, nullptr), std::nullopt);
+  const auto last = choices_->back();
+  choices_->pop_back();
+  EXPECT_EQ(IndexOfChoiceIdenticalTo(last.get(), choices_.get()), std::nullopt)
+      << "of a shorter list";
+  choices_->push_back(last);
   std::swap(choices_->at(0), choices_->at(2));
   EXPECT_EQ(IndexOfChoiceIdenticalTo(choices_->at(2).get(), choices_.get()), 2) << "moved";
   ppd_choice_t withoutOption{};
