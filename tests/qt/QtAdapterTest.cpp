@@ -7,6 +7,7 @@
 #include <QTest>
 
 #include "platform/Numbers.h"
+#include "qt/ChoiceMenu.h"
 #include "qt/QtBundle.h"
 #include "qt/QtControls.h"
 #include "tests/support/PanelFixture.h"
@@ -282,6 +283,21 @@ TEST(InterfaceFiles, CanBeUsedByKeyboardAndScreenReader) {
       EXPECT_TRUE(besideSlider || reached.contains(child)) << child->objectName().toStdString();
     }
   }
+}
+
+TEST(ChoiceMenu, IsAsBigAsQtsOwnThatHasTheSameRoom) {
+  QComboBox usual;
+  usual.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  qt::ChoiceMenu menu;
+  for (QComboBox *box : {&usual, static_cast<QComboBox *>(&menu)}) {
+    box->setMinimumContentsLength(12);
+    box->addItem(QString(100, 'W'));
+    box->setFont(QFont("DejaVu Sans", 7));
+  }
+  EXPECT_EQ(menu.sizeHint(), usual.sizeHint());
+  menu.setFont(QFont("DejaVu Sans", 30));
+  usual.setFont(menu.font());
+  EXPECT_EQ(menu.sizeHint(), usual.sizeHint());
 }
 
 TEST(QtBundle, SpeaksTheUsersLanguageElseEnglish) {
