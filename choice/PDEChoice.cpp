@@ -95,7 +95,7 @@ int PDEChoice::position() const {
 void PDEChoice::appendDescription(std::string &out) const {
   const std::string *user = userTitle();
   const std::string *ppd = ppdTitle();
-  out += "<PDEChoice ";
+  fmt::format_to(std::back_inserter(out), "<{} ", className());
   appendAddress(out, address());
   fmt::format_to(
       std::back_inserter(out), " userTitle:\"{}\" ppdTitle:\"{}\" marked:{} choice:{} of {}>",
