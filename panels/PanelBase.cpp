@@ -240,16 +240,11 @@ void PanelBase::forEachOutlet(Visit &&visit) const {
   for (const auto &row : table_.captions) visit(row);
 }
 
-bool PanelBase::setOutlet(std::string_view outlet, const std::shared_ptr<View> &view) {
-  if (outlet == "pdeView") {
-    pdeView = view;
-    return true;
-  }
-  bool connected = false;
+void PanelBase::setOutlet(std::string_view outlet, const std::shared_ptr<View> &view) {
+  if (outlet == "pdeView") pdeView = view;
   forEachOutlet([&](const auto &row) {
-    if (row.name == outlet) connected = (*row.member).connect(view);
+    if (row.name == outlet) (*row.member).connect(view);
   });
-  return connected;
 }
 
 bool PanelBase::performAction(std::string_view action, const Object *sender) {
@@ -339,11 +334,9 @@ void PanelBase::updateMarkedSelections() {
   PDEProlog(this, "updateMarkedSelections:");
   for (const PopUpRow &row : table_.popUps) {
     if (!(row.option)) continue;
-    const int index = indexOfMarkedOption(row.option, row.key);
-    const ChoiceList &choices = *row.choices;
-    row.selection = index >= 0 && static_cast<std::size_t>(index) < choices.size()
-                        ? choices[static_cast<std::size_t>(index)].get()
-                        : nullptr;
+    // -1 is beyond every list.
+    const auto index = static_cast<std::size_t>(indexOfMarkedOption(row.option, row.key));
+    row.selection = index < row.choices->size() ? (*row.choices)[index].get() : nullptr;
   }
   PDEEpilog(this, "updateMarkedSelections:=void");
 }

@@ -150,7 +150,7 @@ public:
   std::vector<PanelControl> controls() const override;
 
   // The contract with the interface file.
-  bool setOutlet(std::string_view outlet, const std::shared_ptr<View> &view) override;
+  void setOutlet(std::string_view outlet, const std::shared_ptr<View> &view) override;
   bool performAction(std::string_view action, const Object *sender) override;
 
   // Reading what the PPD has marked. A number is read from the text of the marked choice, not from

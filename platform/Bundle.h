@@ -19,10 +19,10 @@ public:
   InterfaceOwner &operator=(const InterfaceOwner &) = delete;
   virtual ~InterfaceOwner() = default;
 
-  /// Connects the control of the file that is named `outlet`. False when the owner has no such
-  /// outlet, or one of another kind; the control then stays unconnected. "pdeView" is retained,
-  /// every other control borrowed.
-  virtual bool setOutlet(std::string_view outlet, const std::shared_ptr<View> &view) = 0;
+  /// Connects the control of the file that is named `outlet`. It stays unconnected when the owner
+  /// has no such outlet, or one of another kind. "pdeView" is retained, every other control
+  /// borrowed.
+  virtual void setOutlet(std::string_view outlet, const std::shared_ptr<View> &view) = 0;
 
   /// Performs `action` ("changePrintQualityOption:"), sent by `sender`, a control that the user
   /// worked; null when nobody in particular sends it. False, and nothing done, when the owner has

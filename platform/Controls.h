@@ -105,12 +105,9 @@ const std::shared_ptr<TextField> &missingControl();
 template <class Control>
 class Outlet {
 public:
-  /// Connects `view` and returns whether it is a control of the right kind; otherwise the outlet is
-  /// left missing.
-  bool connect(const std::shared_ptr<View> &view) {
-    auto control = std::dynamic_pointer_cast<Control>(view);
-    control_ = control;
-    return control != nullptr;
+  /// Connects `view`. When it is null or not of the right kind, the outlet is left missing.
+  void connect(const std::shared_ptr<View> &view) {
+    control_ = std::dynamic_pointer_cast<Control>(view);
   }
 
   /// Returns the control, or null when it is missing.
