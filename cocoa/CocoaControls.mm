@@ -45,7 +45,7 @@ void CocoaPopUpButton::addItem(MenuItem item) {
 
 const MenuItem *CocoaPopUpButton::itemAtIndex(int index) const {
   if (index < 0 || index >= [view_ numberOfItems]) return nullptr;
-  NSMenuItem *item = [view_ itemAtIndex:index];
+  const auto item = [view_ itemAtIndex:index];
   id represented = [item representedObject];
   MenuItem &found = items_[index];
   found.title = textOf([item title]);

@@ -125,7 +125,7 @@ TEST_F(BundleClassesTest, AnswerTheContract) {
   [color PPDOptionKeyValueDidChange:nil ppdChoice:nil];
   [color PPDOptionKeyValueDidChange:@"imageGamma" ppdChoice:@"2.345"];
   EXPECT_EQ(text([[color summaryInfo] objectForKey:@"Gamma"]), "2.35");
-  EXPECT_TRUE([color saveValuesAndReturnError:NULL]) << "a host that answers no requests";
+  EXPECT_TRUE([color saveValuesAndReturnError:nullptr]) << "a host that answers no requests";
   [color release];
 }
 

@@ -19,7 +19,8 @@
 
 @implementation MarkingHost
 - (id)init {
-  if ((self = [super init])) requests = [[NSMutableArray alloc] init];
+  self = [super init];
+  if (self) requests = [[NSMutableArray alloc] init];
   return self;
 }
 - (void)dealloc {

@@ -11,7 +11,7 @@ protected:
   /// Shows a panel of the class, as a dialog opens it.
   void show(NSString *className, TestHost *itsHost) {
     panel_ = newPanel<KWOPDEPanel>(className, itsHost);
-    [panel_ restoreValuesAndReturnError:NULL];
+    [panel_ restoreValuesAndReturnError:nullptr];
     [panel_ panelView];
     [panel_ willShow];
   }
@@ -97,7 +97,8 @@ TEST_F(ControlsTest, CarryAChoiceInEveryItem) {
     EXPECT_EQ([choice isDefaultChoice],
               std::string(option->defchoice) == option->choices[i].choice);
     EXPECT_EQ(text([choice description])
-                  .find(text([NSString stringWithFormat:@"<PDEChoice %p userTitle:", choice])),
+                  .find(text([NSString
+                      stringWithFormat:@"<PDEChoice %p userTitle:", static_cast<void *>(choice)])),
               0u);
   }
   [popUp selectItemAtIndex:2];
@@ -109,7 +110,7 @@ TEST_F(ControlsTest, CarryAChoiceInEveryItem) {
 TEST_F(ControlsTest, AskForTheChoiceOfThePickedItem) {
   show(@"MediaPDE", markingHost);
   NSPopUpButton *popUp = control<NSPopUpButton>(@"printQualityPopUp");
-  NSMenuItem *last = [[popUp lastItem] retain];
+  const auto last = [[popUp lastItem] retain];
   [[popUp menu] removeItem:last];
   [[popUp menu] insertItem:last atIndex:0];
   [popUp selectItemAtIndex:0];
