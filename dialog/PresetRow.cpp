@@ -118,13 +118,17 @@ void PresetRow::saveAs() {
                                  &accepted)
                .simplified();
     if (!accepted) return;
-    const std::string name = QString(text).replace(' ', '-').toStdString();
+    std::string name = QString(text).replace(' ', '-').toStdString();
     if (!host::Presets::isName(name)) {
       warn(window_, tr("A preset's name has letters, digits and marks other than / and #."));
       continue;
     }
-    const bool isKnown = std::find(names_.begin(), names_.end(), name) != names_.end();
-    if (!isKnown || name == current_ ||
+    // CUPS tells no names apart by letter case.
+    const auto known = std::find_if(names_.begin(), names_.end(), [&](const std::string &other) {
+      return host::isSameKey(other, name);
+    });
+    if (known != names_.end()) name = *known;
+    if (known == names_.end() || name == current_ ||
         confirm(window_, tr("Replace the preset “%1”?").arg(QString::fromStdString(name)),
                 tr("Replace")))
       return saveAs(name);

@@ -86,12 +86,20 @@ void PrintDialogPanels::showPanelsOf(const QString &printer, const Prepare &prep
 void PrintDialogPanels::keep(std::future<Printer> answer, const Prepare &prepare) {
   try {
     const Printer told = answer.get();
-    printer_ = &(printers_[chosen_] = {told.queue.options(), told.presets, nullptr});
+    printer_ = &(printers_[chosen_] = {told.queue.options(), told.queue.fetchedDefaults(),
+                                       told.presets, nullptr});
+    // The presets of a queue are those of its instances too.
+    for (auto &[name, left] : printers_)
+      if (name.section('/', 0, 0) == chosen_.section('/', 0, 0)) left.presets = told.presets;
     printer_->session = told.queue.openSession();
     printer_->session->setFixed(optionsOfQt());
     if (prepare) prepare(*printer_->session);
-  } catch (const host::Error &) {
-    // Not a queue, or one without a PPD: a printer that is not ours.
+  } catch (const host::JobError &error) {
+    failure_ = QString::fromStdString(error.what());
+  } catch (const host::Error &error) {
+    // Not a queue, or one without a PPD: a printer that is not ours. A preset may have been
+    // deleted.
+    if (!printer_ && chosen_.contains('/')) failure_ = QString::fromStdString(error.what());
   }
 }
 
@@ -121,6 +129,7 @@ void PrintDialogPanels::closePages() {
   pages_.reset();
   question_.reset();
   printer_ = nullptr;
+  failure_.clear();
   if (help_) help_->hide();
 }
 
@@ -144,6 +153,12 @@ std::optional<std::vector<host::OptionChoice>> PrintDialogPanels::settings() {
 
 bool PrintDialogPanels::waitForPrinter() {
   return !question_ || question_->wait(&dialog_);
+}
+
+QString PrintDialogPanels::takeFailure() {
+  const QString failure = failure_;
+  if (!failure.isEmpty()) showPanelsOf(chosen_);
+  return failure;
 }
 
 bool PrintDialogPanels::settle() {
@@ -232,7 +247,8 @@ void PrintDialogPanels::learnFromQt() {
 }
 
 host::JobOptions PrintDialogPanels::jobOptions() const {
-  host::JobOptions job(printer_ ? printer_->destination : std::vector<host::OptionChoice>());
+  host::JobOptions job;
+  if (printer_) job = host::JobOptions(printer_->destination, printer_->defaults);
   setPrinterOptions(dialog_, job);
   if (hasPanels()) carryPanels(job);
   return job;

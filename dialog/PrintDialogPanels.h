@@ -38,6 +38,10 @@ public:
   /// that.
   bool waitForPrinter();
 
+  /// Returns why it has not told, and asks it anew; empty when it has, or the printer is not ours.
+  /// A job would not carry what is saved for the printer.
+  QString takeFailure();
+
   /// Settles what the panels show, and lets the session know what Qt's tabs hold. To be called when
   /// the dialog is accepted. Returns false when something was refused, and was not when this was
   /// called last; the page that it is on is then in front.
@@ -73,6 +77,7 @@ private:
   /// A queue of the server, as it was left.
   struct Left {
     std::vector<host::OptionChoice> destination;  // what is saved for it
+    std::vector<host::OptionChoice> defaults;     // the queue's own
     std::vector<std::string> presets;
     std::shared_ptr<host::PpdSession> session;  // null when it has no PPD
   };
@@ -97,6 +102,7 @@ private:
   std::map<QString, Left> printers_;  // by name, with the instance
   Left *printer_ = nullptr;  // the chosen one; null when it is no queue, or not told of yet
   QString chosen_;           // its name, with the instance
+  QString failure_;          // why nothing is known of it
   std::unique_ptr<Question> question_;
   std::unique_ptr<PanelPages> pages_;
   std::unique_ptr<PresetRow> presets_;

@@ -1,6 +1,7 @@
 #include "dialog/QueueDialog.h"
 
-#include <QCoreApplication>
+#include <QApplication>
+#include <QComboBox>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPageRanges>
@@ -9,6 +10,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScopedValueRollback>
+#include <array>
 
 #include "dialog/PlainText.h"
 #include "dialog/PrinterOptions.h"
@@ -21,6 +23,39 @@ namespace {
 
 /// Milliseconds of sending before a progress bar is worth showing.
 constexpr int kPatience = 500;
+
+/// What Qt's dialog offers as the page set, in its order.
+constexpr std::array kPageSets{"all", "odd", "even"};
+
+/// While it lives, nothing that a person does reaches a window other than `allowed`: one that has
+/// not been shown yet holds nothing up.
+class InputBlock final : public QObject {
+public:
+  explicit InputBlock(const QWidget &allowed) : allowed_(allowed) {
+    qApp->installEventFilter(this);
+  }
+
+  bool eventFilter(QObject *watched, QEvent *event) override {
+    const auto *widget = qobject_cast<QWidget *>(watched);
+    if (!widget || widget->window() == &allowed_) return false;
+    switch (event->type()) {
+      case QEvent::MouseButtonPress:
+      case QEvent::MouseButtonRelease:
+      case QEvent::MouseButtonDblClick:
+      case QEvent::TouchBegin:
+      case QEvent::Wheel:
+      case QEvent::KeyPress:
+      case QEvent::KeyRelease:
+      case QEvent::Shortcut:
+        return true;
+      default:
+        return false;
+    }
+  }
+
+private:
+  const QWidget &allowed_;
+};
 
 /// Returns the pages that `dialog` shows as chosen, which not every Qt hands to the printer; empty
 /// for all.
@@ -48,8 +83,13 @@ QueueDialog::QueueDialog(PlugInModule &module, QPrinter &printer,
 
 host::JobOptions QueueDialog::jobOptions() const {
   host::JobOptions options = panels_.jobOptions();
-  if (const QPageRanges pages = shownPages(*this); !pages.isEmpty())
-    options.set("page-ranges", pages.toString().toStdString());
+  const QPageRanges pages = shownPages(*this);
+  if (pages.isEmpty()) return options;
+  options.set("page-ranges", pages.toString().toStdString());
+  // Qt counts odd and even in what an application would make of the range, CUPS in the document.
+  const auto *sets = findChild<QComboBox *>("pageSetCombo");
+  const auto set = static_cast<std::size_t>(sets ? sets->currentIndex() : -1);
+  if (set < kPageSets.size() && options.value("page-set")) options.set("page-set", kPageSets[set]);
   return options;
 }
 
@@ -71,7 +111,9 @@ void QueueDialog::done(int result) {
   if (isSending_) return;  // events run meanwhile: a second click, or Return once more
   if (result == Accepted) {
     const QScopedValueRollback<bool> sending(isSending_, true);
-    if (!panels_.waitForPrinter() || !panels_.settle() || !hasSamePpd() || !isAllRight()) return;
+    if (!panels_.waitForPrinter() || !isKnown() || !panels_.settle() || !hasSamePpd() ||
+        !isAllRight())
+      return;
     if (!documents_.empty()) switch (sendDocuments()) {
         case Outcome::sent:
           break;
@@ -84,15 +126,23 @@ void QueueDialog::done(int result) {
   QPrintDialog::done(result);
 }
 
+void QueueDialog::tell(const QString &problem) {
+  if (unattended_)
+    problem_ = problem;
+  else
+    warn(this, problem);
+}
+
+bool QueueDialog::isKnown() {
+  const QString failure = panels_.takeFailure();
+  if (!failure.isEmpty()) tell(failure);
+  return failure.isEmpty();
+}
+
 bool QueueDialog::hasSamePpd() {
   const auto replaced = panels_.followPpd(this);
   if (!replaced || replaced->isEmpty()) return replaced.has_value();
-  const QString text =
-      *replaced + ' ' + tr("Its settings are shown anew: look at them, and print again.");
-  if (unattended_)
-    problem_ = text;
-  else
-    warn(this, text);
+  tell(*replaced + ' ' + tr("Its settings are shown anew: look at them, and print again."));
   return false;
 }
 
@@ -119,9 +169,9 @@ QueueDialog::Outcome QueueDialog::sendDocuments() {
     failure.setTextFormat(Qt::PlainText);
     std::optional<host::EndingSignals> ending(std::in_place);
     const host::PrintJob job = this->job();
-    host::HostLog *const log = panels_.log();
-    if (log) log->carries(job.options);
+    if (host::HostLog *log = panels_.log()) log->carries(job.options);
     try {
+      const InputBlock block(progress);
       jobId_ = send(job, [&](long long sent, long long total) {
         progress.setValue(static_cast<int>(std::min(sent * 999 / std::max(total, 1LL), 999LL)));
         QCoreApplication::processEvents();
@@ -134,6 +184,7 @@ QueueDialog::Outcome QueueDialog::sendDocuments() {
       failure.addButton(QMessageBox::Retry);
       failure.setDefaultButton(QMessageBox::Retry);
     }
+    host::HostLog *const log = panels_.log();
     if (log && jobId_)
       log->jobWasSent(*jobId_);
     else if (log)

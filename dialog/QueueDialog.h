@@ -44,6 +44,8 @@ public:
 
 private:
   host::JobOptions jobOptions() const;
+  void tell(const QString &problem);
+  bool isKnown();
   bool hasSamePpd();
   bool isAllRight();
 

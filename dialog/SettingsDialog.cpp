@@ -41,6 +41,7 @@ void SettingsDialog::showSettings(std::future<Printer> answer, const Prepare &pr
     session_ = printer.queue.openSession();
     if (prepare) prepare(*session_);
     kept_ = printer.queue.options();
+    defaults_ = printer.queue.fetchedDefaults();
     showPanels(session_);
     if (pages()->pages().isEmpty()) return;
     presets_ = std::make_unique<PresetRow>(
@@ -76,7 +77,7 @@ bool SettingsDialog::hasSamePpd() {
 
 std::optional<std::vector<host::OptionChoice>> SettingsDialog::settings() {
   if (!pages()->print()) return {};
-  host::JobOptions options(kept_);
+  host::JobOptions options(kept_, defaults_);
   options.carry(*session_);
   return options.kept();
 }

@@ -47,7 +47,8 @@ private:
   QString destination_;
   std::unique_ptr<Question> question_;
   QString problem_;
-  std::vector<host::OptionChoice> kept_;  // what is saved for it
+  std::vector<host::OptionChoice> kept_;      // what is saved for it
+  std::vector<host::OptionChoice> defaults_;  // the queue's own
   std::shared_ptr<host::PpdSession> session_;
   std::unique_ptr<PresetRow> presets_;
   std::optional<std::vector<host::OptionChoice>> saved_;

@@ -18,23 +18,26 @@ constexpr std::span<const std::string_view> kNames[] = {kMedia, kSides, kOrienta
 constexpr struct {
   std::string_view key;
   std::string_view choice;
-} kUsual[] = {{"copies", "1"},
-              {"finishings", "3"},
-              {"job-cancel-after", {}},
-              {"job-hold-until", "no-hold"},
-              {"job-priority", "50"},
-              {"job-sheets", "none"},
-              {"job-sheets", "none,none"},
-              {"number-up", "1"},
-              {"print-color-mode", {}}};
+} kUsual[] = {
+    {"copies", "1"},          {"finishings", "3"},           {"finishings", "none"},
+    {"job-cancel-after", {}}, {"job-hold-until", "no-hold"}, {"job-priority", "50"},
+    {"job-sheets", "none"},   {"job-sheets", "none,none"},   {"number-up", "1"},
+    {"print-color-mode", {}},
+};
 
 constexpr std::string_view kOfOneJob[] = {"Collate",      "copies",      "job-hold-until",
                                           "job-priority", "page-ranges", "page-set"};
 
-bool isUsual(const OptionChoice &option) {
+bool isUsual(const OptionChoice &option, bool isKnown = false) {
   return std::any_of(std::begin(kUsual), std::end(kUsual), [&](const auto &usual) {
-    return option.key == usual.key && (usual.choice.empty() || option.choice == usual.choice);
+    return option.key == usual.key &&
+           (usual.choice.empty() ? !isKnown : option.choice == usual.choice);
   });
+}
+
+/// Whether it is `byDefault`, the queue's own, though maybe in other words.
+bool isSame(const OptionChoice &option, const OptionChoice &byDefault) {
+  return option.choice == byDefault.choice || (isUsual(option, true) && isUsual(byDefault, true));
 }
 
 /// Whether the option tells of the printer and is none of a job's.
@@ -50,9 +53,14 @@ auto find(auto &list, std::string_view key) {
 
 }  // namespace
 
-JobOptions::JobOptions(const std::vector<OptionChoice> &destination) {
-  for (const OptionChoice &option : destination)
-    if (!isOfThePrinter(option)) list_.push_back({option, isUsual(option)});
+JobOptions::JobOptions(const std::vector<OptionChoice> &destination,
+                       const std::vector<OptionChoice> &queueDefaults) {
+  for (const OptionChoice &option : destination) {
+    if (isOfThePrinter(option)) continue;
+    const auto byDefault = find(queueDefaults, option.key);
+    list_.push_back(
+        {option, byDefault == queueDefaults.end() ? isUsual(option) : isSame(option, *byDefault)});
+  }
 }
 
 void JobOptions::set(const std::string &key, const std::string &choice) {

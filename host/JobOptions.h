@@ -20,7 +20,9 @@ public:
   JobOptions() = default;
 
   /// Starts from `destination`, taken as it is: the options saved for it, and the queue's defaults.
-  explicit JobOptions(const std::vector<OptionChoice> &destination);
+  /// `queueDefaults`, where they are known, tell which is which.
+  explicit JobOptions(const std::vector<OptionChoice> &destination,
+                      const std::vector<OptionChoice> &queueDefaults = {});
 
   /// Sets `key`, and with an option that goes by several names ("media", "PageSize") takes the
   /// other names out.

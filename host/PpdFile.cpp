@@ -112,11 +112,10 @@ void expectFewOptions(std::string_view text, const std::string &name) {
   std::size_t choices = 0;  // of the option that a line belongs to
   std::size_t ofChoices = 0;
   bool isInOption = false;
-  const char lineEnd = text.find('\n') == text.npos ? '\r' : '\n';
   for (std::size_t at = 0; at < text.size(); ++lines) {
-    const auto end = std::min(text.find(lineEnd, at), text.size());
+    const auto end = std::min(text.find_first_of("\r\n", at), text.size());
     const std::string_view line = text.substr(at, end - at);
-    at = end + 1;
+    at = end + (text.substr(end).starts_with("\r\n") ? 2 : 1);
     const bool begins = line.starts_with("*OpenUI") || line.starts_with("*JCLOpenUI");
     const bool ends = line.starts_with("*CloseUI") || line.starts_with("*JCLCloseUI");
     isInOption = begins || (isInOption && !ends);

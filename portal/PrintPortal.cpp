@@ -80,7 +80,8 @@ quint32 PrintPortal::Print(const QDBusObjectPath &, const QString &appId, const 
     send(request, document, *settled, title);
     return {};
   }
-  const QJsonObject question{{"title", withoutMnemonic(title)}, {"parent", parent}};
+  const QJsonObject question{
+      {"title", withoutMnemonic(title)}, {"parent", parent}, {"documentIsMade", true}};
   withOurPrinters(request, [=, this] {
     showDialog(request, question, [=, this](const QJsonObject &answer) {
       send(request, document, answer["job"].toObject(), title);

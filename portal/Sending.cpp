@@ -8,7 +8,7 @@
 #include <QPointer>
 #include <QSaveFile>
 #include <QTemporaryFile>
-#include <QThreadPool>
+#include <QThread>
 #include <array>
 #include <cerrno>
 #include <cstring>
@@ -23,6 +23,10 @@ namespace {
 /// Milliseconds between looks at whether it was cancelled.
 constexpr int kLook = 100;
 
+host::Error noRoom(const QFileDevice &file) {
+  return host::Error("there is no room for the document: " + file.errorString().toStdString());
+}
+
 /// Copies what `from` has, to its end; false when `isCancelled` comes first. Throws `host::Error`.
 bool copy(int from, QFileDevice &to, const std::atomic<bool> &isCancelled) {
   std::array<char, 65536> block;
@@ -33,8 +37,7 @@ bool copy(int from, QFileDevice &to, const std::atomic<bool> &isCancelled) {
     if (size == 0) return true;
     if (size < 0 && errno != EINTR)
       throw host::Error("the document cannot be read: " + std::string(std::strerror(errno)));
-    if (size > 0 && to.write(block.data(), size) != size)
-      throw host::Error("there is no room for the document: " + to.errorString().toStdString());
+    if (size > 0 && to.write(block.data(), size) != size) throw noRoom(to);
   }
   return false;
 }
@@ -61,7 +64,8 @@ bool send(int document, const QJsonObject &job, const std::atomic<bool> &isCance
   }
   QTemporaryFile file;
   if (!file.open()) throw host::Error(file.errorString().toStdString());
-  if (!copy(document, file, isCancelled) || !file.flush()) return false;
+  if (!copy(document, file, isCancelled)) return false;
+  if (!file.flush()) throw noRoom(file);
   return host::send(jobOf(job, file.fileName()), [&](long long, long long) { return !isCancelled; })
       .has_value();
 }
@@ -70,8 +74,9 @@ bool send(int document, const QJsonObject &job, const std::atomic<bool> &isCance
 
 Sending::Sending(const QDBusUnixFileDescriptor &document, const QJsonObject &job, QObject *parent)
     : QObject(parent) {
-  QThreadPool::globalInstance()->start(
-      [document, job, isCancelled = isCancelled_, guard = QPointer<Sending>(this)] {
+  // Not one of a pool, which has as many as the machine has cores.
+  QThread *const thread =
+      QThread::create([document, job, isCancelled = isCancelled_, guard = QPointer<Sending>(this)] {
         QString why;
         try {
           if (!send(document.fileDescriptor(), job, *isCancelled)) return;
@@ -84,6 +89,8 @@ Sending::Sending(const QDBusUnixFileDescriptor &document, const QJsonObject &job
           if (guard && !why.isEmpty()) emit guard->failed(why);
         });
       });
+  connect(thread, &QThread::finished, thread, &QObject::deleteLater);
+  thread->start();
 }
 
 Sending::~Sending() {

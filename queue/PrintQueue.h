@@ -37,6 +37,9 @@ public:
   /// Throws `JobError` when the server does not tell.
   std::vector<OptionChoice> defaults(const GoesOn &goesOn = {}) const;
 
+  /// Returns these as `fetch` has found them; none before.
+  const std::vector<OptionChoice> &fetchedDefaults() const { return defaults_; }
+
   /// Asks the server for the PPD and the defaults, so that `openSession` need not; in any thread.
   /// Throws `JobError` when they did not come whole.
   void fetch(const GoesOn &goesOn);

@@ -126,14 +126,20 @@ QJsonObject pageSetupFor(const QPageLayout &layout) {
       {"Orientation", layout.orientation() == QPageLayout::Landscape ? "landscape" : "portrait"}};
 }
 
+/// `isMade`: the document has been made before the dialog opens.
 QJsonObject jobOf(const dialog::QueueDialog &dialog, const QPrinter &printer,
-                  const QPageLayout &layout) {
+                  const QPageLayout &layout, bool isMade) {
   if (printer.outputFormat() == QPrinter::PdfFormat) return {{"file", printer.outputFileName()}};
   const host::PrintJob job = dialog.job();
   QJsonObject options;
   for (const auto &[key, choice] : job.options)
     options[QString::fromStdString(key)] = QString::fromStdString(choice);
-  for (const char *key : kDoneByTheApplication) options.remove(key);
+  if (!isMade) {
+    for (const char *key : kDoneByTheApplication) options.remove(key);
+    // Qt counts odd and even in what the application makes.
+    for (const auto &[key, choice] : dialog::cupsOptions(printer))
+      if (key == "page-set") options["page-set"] = QString::fromStdString(choice);
+  }
   // The paper is what the application was told, unless a person has chosen one of the printer's.
   if (const QString paper = paperName(layout.pageSize());
       !paper.isEmpty() && !dialog::shownPaper(dialog)) {
@@ -163,9 +169,10 @@ int runPortalDialogCommand(const PortalDialogOptions &options) {
   // Qt's dialog begins with the printer's usual paper, whatever the application has.
   const auto wanted = layoutOf(question["pageSetup"].toObject());
   const QPageLayout layout = wanted && !dialog::shownPaper(dialog) ? *wanted : printer.pageLayout();
-  const QJsonObject answer{{"settings", settingsFor(printer, layout)},
-                           {"pageSetup", pageSetupFor(layout)},
-                           {"job", jobOf(dialog, printer, layout)}};
+  const QJsonObject answer{
+      {"settings", settingsFor(printer, layout)},
+      {"pageSetup", pageSetupFor(layout)},
+      {"job", jobOf(dialog, printer, layout, question["documentIsMade"].toBool())}};
   writeResult(QJsonDocument(answer).toJson(QJsonDocument::Compact).toStdString());
   return kDone;
 }

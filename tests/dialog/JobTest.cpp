@@ -241,12 +241,14 @@ TEST_F(DialogJobs, CarryWhatItsTabsAndPanelsShow) {
   widget<QCheckBox>(dialog, "reverse").setChecked(true);
   widget<QRadioButton>(dialog, "pagesRadioButton").click();
   QTest::keyClicks(&widget<QLineEdit>(dialog, "pagesLineEdit"), "2,4-5");
+  widget<QComboBox>(dialog, "pageSetCombo").setCurrentIndex(2);  // even, of the document's
   dialog.accept();
   ASSERT_TRUE(dialog.jobId());
   const auto job = carriedBy(*dialog.jobId());
   given("", "");
   auto lp = byLp(
-      "-d jobs -n 3 -P 2,4-5 -o Collate=True -o PageSize=8x10 -o sides=one-sided -o "
+      "-d jobs -n 3 -P 2,4-5 -o page-set=even -o Collate=True -o PageSize=8x10 -o sides=one-sided "
+      "-o "
       "outputorder=reverse "
       "-o printFinish=Glossy -o pageScale=100 -o rotateImage=None -o job-sheets=standard");
   EXPECT_EQ(job, lp);
@@ -415,6 +417,25 @@ TEST_F(DialogJobs, AreNotSentWithTheOptionsOfAPpdThatWasReplaced) {
   EXPECT_THAT(byLp("-d jobs"), Contains(Pair("printQuality", "Draft")));
 }
 
+// Nor without what is saved for a printer, when the server does not tell.
+TEST_F(DialogJobs, AreNotSentWhileNothingIsKnownOfThePrinter) {
+  given("-p jobs/photo -o printFinish=Satin", "");
+  printer_.setPrinterName("jobs");
+  dialog::QueueDialog dialog(dialog::loadModule(), printer_, {document_});
+  dialog.setUnattended();
+  dialog.show();
+  run("lpoptions -x jobs/photo");
+  widget<QComboBox>(dialog, "printers").setCurrentText("jobs/photo");
+  dialog.accept();
+  EXPECT_TRUE(dialog.isVisible());
+  EXPECT_THAT(dialog.problem().toStdString(), testing::HasSubstr("jobs has no preset photo"));
+  run("lpoptions -p jobs/photo -o printFinish=Satin");
+  dialog.accept();  // asks anew
+  dialog.accept();
+  ASSERT_TRUE(dialog.jobId());
+  EXPECT_THAT(carriedBy(*dialog.jobId()), Contains(Pair("printFinish", "Satin")));
+}
+
 class Presets : public DialogJobs {
 protected:
   /// Triggers an action of the preset menu, and gives the name that it asks for, if it does.
@@ -454,7 +475,20 @@ TEST_F(Presets, AreKeptChosenAndDeletedInTheDialog) {
   EXPECT_EQ(saved("printFinish", "jobs/Warm-photo"), "Glossy");
   EXPECT_EQ(saved("sides", "jobs/Warm-photo"), "two-sided-long-edge");
   EXPECT_EQ(saved("printFinish"), "Matte");
-  QTest::keyClick(&widget<QComboBox>(dialog, "presets"), Qt::Key_Up);
+  auto &printers = widget<QComboBox>(dialog, "printers");
+  printers.setCurrentText("jobs");
+  EXPECT_EQ(widget<QComboBox>(dialog, "presets").count(), 2) << "of a list that was kept";
+  QString asked;
+  QTimer::singleShot(300, &dialog, [&] {
+    auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+    if (!box) return;
+    asked = box->text();
+    for (QAbstractButton *button : box->buttons())
+      if (box->buttonRole(button) == QMessageBox::AcceptRole) button->click();
+  });
+  pick(dialog, "saveAs", "warm photo");  // CUPS does not tell them apart
+  EXPECT_EQ(asked.toStdString(), "Replace the preset “Warm-photo”?");
+  EXPECT_EQ(shown(), "Warm-photo");
   emit widget<QComboBox>(dialog, "presets").activated(0);
   QTest::qWait(10);
   EXPECT_EQ(widget<QComboBox>(dialog, "printFinishPopUp").currentText(), "Matte");
@@ -472,7 +506,8 @@ TEST_F(Presets, AreKeptChosenAndDeletedInTheDialog) {
 }
 
 TEST_F(Presets, OfTheSettingsDialogReachEveryProgram) {
-  given("-p jobs -o pageScale=120 -o number-up=2", "-o pageScale-default=85");
+  given("-p jobs -o pageScale=120 -o number-up=2 -o print-color-mode=monochrome -o job-sheets=none",
+        "-o pageScale-default=85 -o job-sheets-default=standard,none");
   dialog::SettingsDialog dialog(dialog::loadModule(), {"jobs", "kwo-basic"}, "jobs");
   dialog.show();
   EXPECT_EQ(widget<QLineEdit>(dialog, "pageScaleEdit").text(), "120 %");
@@ -492,6 +527,8 @@ TEST_F(Presets, OfTheSettingsDialogReachEveryProgram) {
   EXPECT_THAT(lp, Contains(Pair("printFinish", "Matte")));
   EXPECT_THAT(lp, Contains(Pair("pageScale", "85")));
   EXPECT_THAT(lp, Contains(Pair("number-up", "2")));
+  EXPECT_THAT(lp, Contains(Pair("print-color-mode", "monochrome")));
+  EXPECT_EQ(saved("job-sheets"), "none") << "what is usual elsewhere";
 }
 
 TEST_F(Presets, OfTwoProcessesAtOnceAreAllKept) {

@@ -353,9 +353,14 @@ TEST_F(QtDialog, SendsWhatWasSetAndSaysSoInTheTrace) {
 TEST_F(QtDialog, SendsOneJobForADoubleClickAndNoneAfterASignal) {
   const std::string large = document("twice.txt", "text", 300000);
   dialog::QueueDialog twice(dialog::loadModule(), printer_, {large});
-  QTimer::singleShot(0, &twice, [&] { twice.accept(); });
+  auto *printers = twice.findChild<QComboBox *>("printers");
+  QTimer::singleShot(0, &twice, [&] {
+    QTest::keyClick(printers, Qt::Key_Down);
+    twice.accept();
+  });
   twice.accept();
   ASSERT_TRUE(twice.jobId());
+  EXPECT_EQ(printers->currentText(), "kwo-7032");
   EXPECT_EQ(attribute(*twice.jobId() + 1, "job-name"), "");
 
   dialog::QueueDialog ended(dialog::loadModule(), printer_, {large});
