@@ -112,10 +112,14 @@ void expectFewOptions(std::string_view text, const std::string &name) {
   std::size_t choices = 0;  // of the option that a line belongs to
   std::size_t ofChoices = 0;
   bool isInOption = false;
+  auto feed = text.find('\n');
+  auto carriageReturn = text.find('\r');
   for (std::size_t at = 0; at < text.size(); ++lines) {
-    const auto end = std::min(text.find_first_of("\r\n", at), text.size());
+    if (feed < at) feed = text.find('\n', at);
+    if (carriageReturn < at) carriageReturn = text.find('\r', at);
+    const auto end = std::min({feed, carriageReturn, text.size()});
     const std::string_view line = text.substr(at, end - at);
-    at = end + (text.substr(end).starts_with("\r\n") ? 2 : 1);
+    at = end + (end == carriageReturn && feed == end + 1 ? 2 : 1);
     const bool begins = line.starts_with("*OpenUI") || line.starts_with("*JCLOpenUI");
     const bool ends = line.starts_with("*CloseUI") || line.starts_with("*JCLCloseUI");
     isInOption = begins || (isInOption && !ends);
