@@ -86,8 +86,8 @@ void PrintDialogPanels::showPanelsOf(const QString &printer, const Prepare &prep
 void PrintDialogPanels::keep(std::future<Printer> answer, const Prepare &prepare) {
   try {
     const Printer told = answer.get();
-    printer_ = &(printers_[chosen_] = {told.queue.options(), told.queue.fetchedDefaults(),
-                                       told.presets, nullptr});
+    const host::JobOptions saved(told.queue.options(), told.queue.fetchedDefaults());
+    printer_ = &(printers_[chosen_] = {saved, told.presets, nullptr});
     // The presets of a queue are those of its instances too.
     for (auto &[name, left] : printers_)
       if (name.section('/', 0, 0) == chosen_.section('/', 0, 0)) left.presets = told.presets;
@@ -247,8 +247,7 @@ void PrintDialogPanels::learnFromQt() {
 }
 
 host::JobOptions PrintDialogPanels::jobOptions() const {
-  host::JobOptions job;
-  if (printer_) job = host::JobOptions(printer_->destination, printer_->defaults);
+  host::JobOptions job = printer_ ? printer_->saved : host::JobOptions();
   setPrinterOptions(dialog_, job);
   if (hasPanels()) carryPanels(job);
   return job;
@@ -257,7 +256,7 @@ host::JobOptions PrintDialogPanels::jobOptions() const {
 void PrintDialogPanels::handOver() {
   if (!hasPanels()) return;
   QPrinter &printer = *dialog_.printer();
-  host::JobOptions known(printer_->destination);
+  host::JobOptions known = printer_->saved;
   const auto list = cupsOptions(printer);
   for (const auto &[key, choice] : list) known.set(key, choice);
   carryPanels(known);

@@ -76,8 +76,7 @@ public:
 private:
   /// A queue of the server, as it was left.
   struct Left {
-    std::vector<host::OptionChoice> destination;  // what is saved for it
-    std::vector<host::OptionChoice> defaults;     // the queue's own
+    host::JobOptions saved;  // what every job to it carries
     std::vector<std::string> presets;
     std::shared_ptr<host::PpdSession> session;  // null when it has no PPD
   };

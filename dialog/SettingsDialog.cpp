@@ -5,7 +5,6 @@
 
 #include "dialog/PlainText.h"
 #include "host/Error.h"
-#include "host/JobOptions.h"
 
 namespace kwopde::dialog {
 
@@ -40,8 +39,7 @@ void SettingsDialog::showSettings(std::future<Printer> answer, const Prepare &pr
     const Printer printer = answer.get();
     session_ = printer.queue.openSession();
     if (prepare) prepare(*session_);
-    kept_ = printer.queue.options();
-    defaults_ = printer.queue.fetchedDefaults();
+    kept_ = host::JobOptions(printer.queue.options(), printer.queue.fetchedDefaults());
     showPanels(session_);
     if (pages()->pages().isEmpty()) return;
     presets_ = std::make_unique<PresetRow>(
@@ -77,7 +75,7 @@ bool SettingsDialog::hasSamePpd() {
 
 std::optional<std::vector<host::OptionChoice>> SettingsDialog::settings() {
   if (!pages()->print()) return {};
-  host::JobOptions options(kept_, defaults_);
+  host::JobOptions options = kept_;
   options.carry(*session_);
   return options.kept();
 }

@@ -10,6 +10,7 @@
 #include "dialog/PresetRow.h"
 #include "dialog/Printer.h"
 #include "dialog/Question.h"
+#include "host/JobOptions.h"
 
 class QComboBox;
 
@@ -47,8 +48,7 @@ private:
   QString destination_;
   std::unique_ptr<Question> question_;
   QString problem_;
-  std::vector<host::OptionChoice> kept_;      // what is saved for it
-  std::vector<host::OptionChoice> defaults_;  // the queue's own
+  host::JobOptions kept_;  // what is saved for it
   std::shared_ptr<host::PpdSession> session_;
   std::unique_ptr<PresetRow> presets_;
   std::optional<std::vector<host::OptionChoice>> saved_;

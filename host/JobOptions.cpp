@@ -14,30 +14,41 @@ constexpr std::string_view kSides[] = {"sides", "Duplex"};
 constexpr std::string_view kOrientation[] = {"landscape", "orientation-requested"};
 constexpr std::span<const std::string_view> kNames[] = {kMedia, kSides, kOrientation};
 
-/// What the queues of a server give every job unless told otherwise; no value stands for any.
+/// What the queues of a server give every job unless told otherwise.
 constexpr struct {
   std::string_view key;
   std::string_view choice;
 } kUsual[] = {
-    {"copies", "1"},          {"finishings", "3"},           {"finishings", "none"},
-    {"job-cancel-after", {}}, {"job-hold-until", "no-hold"}, {"job-priority", "50"},
-    {"job-sheets", "none"},   {"job-sheets", "none,none"},   {"number-up", "1"},
-    {"print-color-mode", {}},
+    {"copies", "1"},
+    {"finishings", "3"},
+    {"finishings", "none"},  // the same in words
+    {"job-hold-until", "no-hold"},
+    {"job-priority", "50"},
+    {"job-sheets", "none"},
+    {"job-sheets", "none,none"},
+    {"number-up", "1"},
 };
+
+/// What each queue gives a choice of its own for.
+constexpr std::string_view kOfTheQueue[] = {"job-cancel-after", "print-color-mode"};
 
 constexpr std::string_view kOfOneJob[] = {"Collate",      "copies",      "job-hold-until",
                                           "job-priority", "page-ranges", "page-set"};
 
-bool isUsual(const OptionChoice &option, bool isKnown = false) {
+bool isUsual(const OptionChoice &option) {
   return std::any_of(std::begin(kUsual), std::end(kUsual), [&](const auto &usual) {
-    return option.key == usual.key &&
-           (usual.choice.empty() ? !isKnown : option.choice == usual.choice);
+    return option.key == usual.key && option.choice == usual.choice;
   });
 }
 
 /// Whether it is `byDefault`, the queue's own, though maybe in other words.
 bool isSame(const OptionChoice &option, const OptionChoice &byDefault) {
-  return option.choice == byDefault.choice || (isUsual(option, true) && isUsual(byDefault, true));
+  return option.choice == byDefault.choice || (isUsual(option) && isUsual(byDefault));
+}
+
+/// Whether it looks like a default of a queue whose defaults are not known.
+bool seemsGiven(const OptionChoice &option) {
+  return isUsual(option) || std::count(std::begin(kOfTheQueue), std::end(kOfTheQueue), option.key);
 }
 
 /// Whether the option tells of the printer and is none of a job's.
@@ -58,8 +69,8 @@ JobOptions::JobOptions(const std::vector<OptionChoice> &destination,
   for (const OptionChoice &option : destination) {
     if (isOfThePrinter(option)) continue;
     const auto byDefault = find(queueDefaults, option.key);
-    list_.push_back(
-        {option, byDefault == queueDefaults.end() ? isUsual(option) : isSame(option, *byDefault)});
+    list_.push_back({option, byDefault == queueDefaults.end() ? seemsGiven(option)
+                                                              : isSame(option, *byDefault)});
   }
 }
 
