@@ -248,9 +248,8 @@ TEST_F(DialogJobs, CarryWhatItsTabsAndPanelsShow) {
   given("", "");
   auto lp = byLp(
       "-d jobs -n 3 -P 2,4-5 -o page-set=even -o Collate=True -o PageSize=8x10 -o sides=one-sided "
-      "-o "
-      "outputorder=reverse "
-      "-o printFinish=Glossy -o pageScale=100 -o rotateImage=None -o job-sheets=standard");
+      "-o outputorder=reverse -o printFinish=Glossy -o pageScale=100 -o rotateImage=None -o "
+      "job-sheets=standard");
   EXPECT_EQ(job, lp);
 }
 
