@@ -17,6 +17,7 @@ int main(int argc, char **argv) {
   cups_option_t *options = nullptr;
   const int count = cupsParseOptions(argv[5], 0, &options);
   cupsMarkOptions(ppd, count, options);
+  cupsFreeOptions(count, options);
   std::string marked;
   for (ppd_option_t *option = ppdFirstOption(ppd); option; option = ppdNextOption(ppd))
     if (const ppd_choice_t *choice = ppdFindMarkedChoice(ppd, option->keyword))
