@@ -38,8 +38,9 @@ std::optional<QString> Printer::tellOfNewPpd(QWidget *window, const QString &des
 
 Prepare Printer::copyOf(const host::PpdSession &session) {
   return [set = session.settledChoices()](host::PpdSession &other) {
+    // What the queue gives or has saved does not come back over a default that was set.
     for (const auto &[key, choice, isDefault] : set)
-      if (!isDefault) other.mark(key, choice);
+      if (!isDefault || !other.hasDefaultOfPpd(key)) other.mark(key, choice);
   };
 }
 

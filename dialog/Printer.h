@@ -34,7 +34,8 @@ public:
   static std::optional<QString> tellOfNewPpd(QWidget *window, const QString &destination,
                                              const host::PpdSession &session);
 
-  /// Returns what marks in another session what is set in this one, as far as that has it.
+  /// Returns what marks in another session of the printer what is set in this one, as far as that
+  /// has it. What is the PPD's default in both stays so.
   static Prepare copyOf(const host::PpdSession &session);
 };
 

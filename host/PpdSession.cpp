@@ -154,6 +154,11 @@ std::optional<std::string> PpdSession::markedChoice(const std::string &key) cons
   return MarkableChoice{choice, custom == customs_.end() ? "" : custom->second.value}.keyword();
 }
 
+bool PpdSession::hasDefaultOfPpd(const std::string &key) const {
+  const ppd_option_t *option = ppdFindOption(ppd_.get(), key.c_str());
+  return option && markedChoice(key) == option->defchoice;
+}
+
 std::optional<NumberRange> PpdSession::range(const std::string &key) const {
   const ppd_option_t *option = ppdFindOption(ppd_.get(), key.c_str());
   return option ? numberRange(ppd_.get(), *option) : std::nullopt;
@@ -175,7 +180,7 @@ std::vector<PpdSession::Settled> PpdSession::settledChoices() const {
   std::vector<Settled> settled;
   ppd_.forEachOption([&](const ppd_option_t &option) {
     const auto marked = keys.contains(option.keyword) ? markedChoice(option.keyword) : std::nullopt;
-    if (marked) settled.push_back({option.keyword, *marked, *marked == option.defchoice});
+    if (marked) settled.push_back({option.keyword, *marked, hasDefaultOfPpd(option.keyword)});
   });
   return settled;
 }

@@ -130,6 +130,9 @@ public:
   /// Returns the keyword of the marked choice of `key`; none when none is marked.
   std::optional<std::string> markedChoice(const std::string &key) const;
 
+  /// Returns whether the marked choice of `key` is the PPD's own default, whatever the queue gives.
+  bool hasDefaultOfPpd(const std::string &key) const;
+
   /// Returns the numbers between which the option's listed and custom ones lie; none when it lists
   /// anything else, or nothing.
   std::optional<NumberRange> range(const std::string &key) const;

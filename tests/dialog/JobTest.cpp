@@ -386,6 +386,8 @@ TEST_F(DialogJobs, AreNotSentWithTheOptionsOfAPpdThatWasReplaced) {
   /// Accepts `dialog` once the PPD has been replaced, and once more.
   const auto acceptTwice = [this](QDialog &dialog) {
     QTest::keyClick(&widget<QComboBox>(dialog, "printQualityPopUp"), Qt::Key_Home);
+    // Back to the PPD's default, which is not what is saved.
+    QTest::keyClick(&widget<QComboBox>(dialog, "rotateImagePopUp"), Qt::Key_Home);
     const std::string replaced = folder_.write(
         "replaced.ppd", std::regex_replace(contents(ppd_), std::regex("/Matte:"), "/Velvet:"));
     run("lpadmin -p jobs -P " + written(replaced));
@@ -403,19 +405,21 @@ TEST_F(DialogJobs, AreNotSentWithTheOptionsOfAPpdThatWasReplaced) {
     dialog.accept();
     EXPECT_FALSE(dialog.isVisible());
   };
-  given("", "");
+  const auto areTheirs = testing::AllOf(Contains(Pair("marked printQuality", "Draft")),
+                                        Contains(Pair("marked rotateImage", "None")));
+  given("-p jobs -o rotateImage=Rotate90", "");
   printer_.setPrinterName("jobs");
   dialog::QueueDialog dialog(dialog::loadModule(), printer_, {document_});
   show(dialog, 2);
   acceptTwice(dialog);
   ASSERT_TRUE(dialog.jobId());
-  EXPECT_THAT(carriedBy(*dialog.jobId()), Contains(Pair("printQuality", "Draft")));
+  EXPECT_THAT(carriedBy(*dialog.jobId()), areTheirs);
 
-  given("", "");
+  given("", "-o rotateImage-default=Rotate90");
   dialog::SettingsDialog settings(dialog::loadModule(), {"jobs"}, "jobs");
   settings.show();
   acceptTwice(settings);
-  EXPECT_THAT(byLp("-d jobs"), Contains(Pair("printQuality", "Draft")));
+  EXPECT_THAT(byLp("-d jobs"), areTheirs);
 }
 
 // Nor without what is saved for a printer, when the server does not tell.
