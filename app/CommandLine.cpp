@@ -4,9 +4,11 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <cctype>
 #include <charconv>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <variant>
 
 #include "app/Output.h"
@@ -15,6 +17,14 @@
 namespace kwopde::app {
 
 namespace {
+
+/// Returns a number without the zeros in front, with which CLI11 takes it for an octal one.
+std::string decimalText(const std::string &text) {
+  const auto start = text.find_first_not_of('0');
+  return start == text.npos || !std::isdigit(static_cast<unsigned char>(text[start]))
+             ? text
+             : text.substr(start);
+}
 
 /// Says that a number is below `least`; empty when it is not. What is no number at all is told when
 /// it is read.
@@ -51,8 +61,9 @@ template <class Value>
 CLI::Option *addTarget(CLI::App &command, const Option &option, Value *target) {
   CLI::Option *row = command.add_option(option.names, *target, option.description);
   row->type_name(option.value);
-  // One value each time that it is given: what follows stands for itself.
-  if (option.names.starts_with('-')) row->allow_extra_args(false);
+  // One value each time that it is given: what follows stands for itself, and so do brackets.
+  row->allow_extra_args(false);
+  if constexpr (std::is_integral_v<Value>) row->transform(decimalText);
   if (*target != Value()) row->capture_default_str();
   return row;
 }

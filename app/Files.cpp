@@ -2,6 +2,7 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <filesystem>
@@ -23,6 +24,8 @@ std::ifstream openReadable(const std::string &path) {
 }
 
 void expectReadable(const std::vector<std::string> &paths) {
+  if (std::count(paths.begin(), paths.end(), host::kStandardInput) > 1)
+    throw host::Error("standard input can be read only once: - is given twice");
   for (const std::string &path : paths) {
     std::error_code error;
     if (path == host::kStandardInput || std::filesystem::is_fifo(path, error)) continue;

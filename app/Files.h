@@ -11,8 +11,8 @@ namespace kwopde::app {
 /// Opens the file at `path` and reads a first byte. Throws `host::Error` when that fails.
 std::ifstream openReadable(const std::string &path);
 
-/// Throws `host::Error` for the first of `paths` that cannot be read. A pipe, which can be read
-/// only once, and "-" for standard input are left alone.
+/// Throws `host::Error` for the first of `paths` that cannot be read, and when "-", which is
+/// standard input, is among them twice. A pipe, which can be read only once, is left alone.
 void expectReadable(const std::vector<std::string> &paths);
 
 /// A text: a file, or standard input for "-".

@@ -4,9 +4,11 @@
 #include <algorithm>
 #include <cstdio>
 #include <iostream>
+#include <map>
 #include <memory>
 #include <numeric>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -69,21 +71,65 @@ void noteUnknown(const std::string &key, const host::PpdFile &ppd) {
   });
 }
 
-/// Reads one -o as lp(1) does. Options of the printer are asked for, the others go with the job.
-void apply(const std::string &words, host::PpdSession &session, host::JobOptions &job) {
-  host::CupsOptions parsed;
-  parsed.count = cupsParseOptions(words.c_str(), 0, &parsed.options);
-  if (parsed.count == 0) throw host::Error(fmt::format("-o {}: not an option", words));
-  for (int i = 0; i < parsed.count; ++i) {
-    const std::string key = parsed.options[i].name;
-    const std::string choice = parsed.options[i].value;
-    if (ppdFindOption(session.ppdFile(), key.c_str())) {
-      session.willChangePPDOptionKeyValue(&key, &choice);
-    } else {
-      noteUnknown(key, session.ppd());
-      job.set(key, choice);
+using Marks = std::map<std::string, std::string>;  // by option
+
+Marks marksOf(const host::PpdSession &session) {
+  Marks marks;
+  session.ppd().forEachOption([&](const ppd_option_t &option) {
+    if (const auto marked = session.markedChoice(option.keyword)) marks[option.keyword] = *marked;
+  });
+  return marks;
+}
+
+/// Asks for what the library takes from attributes of a job ("media", "sides") for the options of
+/// the printer, but for those in `asked`, which come first there too. Returns what was asked for.
+Marks askForAttributes(const std::vector<host::OptionChoice> &attributes,
+                       const std::set<std::string> &asked, const host::PrintQueue &queue,
+                       host::PpdSession &session) {
+  Marks implied;
+  if (attributes.empty()) return implied;
+  const auto plain = queue.openSession();
+  const Marks before = marksOf(*plain);
+  plain->markSaved(attributes);
+  for (const auto &[key, choice] : marksOf(*plain)) {
+    const auto names = [&key](const host::OptionChoice &attribute) {
+      return host::isSameSetting(attribute.key, key);
+    };
+    const auto was = before.find(key);
+    const bool isNew = was != before.end() && was->second != choice;
+    if (asked.contains(key) ||
+        (!isNew && std::none_of(attributes.begin(), attributes.end(), names)))
+      continue;
+    session.willChangePPDOptionKeyValue(&key, &choice);
+    implied[key] = choice;
+  }
+  return implied;
+}
+
+/// Reads each -o as lp(1) does. Options of the printer are asked for, the others go with the job.
+/// Returns what those others ask of the printer's options.
+Marks apply(const std::vector<std::string> &options, const host::PrintQueue &queue,
+            host::PpdSession &session, host::JobOptions &job) {
+  std::vector<host::OptionChoice> attributes;
+  std::set<std::string> asked;
+  for (const std::string &words : options) {
+    host::CupsOptions parsed;
+    parsed.count = cupsParseOptions(words.c_str(), 0, &parsed.options);
+    if (parsed.count == 0) throw host::Error(fmt::format("-o {}: not an option", words));
+    for (int i = 0; i < parsed.count; ++i) {
+      const std::string key = parsed.options[i].name;
+      const std::string choice = parsed.options[i].value;
+      if (const auto *option = ppdFindOption(session.ppdFile(), key.c_str())) {
+        session.willChangePPDOptionKeyValue(&key, &choice);
+        asked.insert(option->keyword);
+      } else {
+        noteUnknown(key, session.ppd());
+        job.set(key, choice);
+        attributes.push_back({key, choice});
+      }
     }
   }
+  return askForAttributes(attributes, asked, queue, session);
 }
 
 /// Runs the script on panels without a screen. Returns whether all of it could be run.
@@ -121,13 +167,16 @@ std::optional<int> send(const host::PrintJob &job, host::HostLog &log) try {
 int print(const PrintOptions &options) {
   const host::PrintQueue queue(options.printer);
   const auto session = queue.openSession();
-  expectReadable(options.documents);
+  std::vector<std::string> inputs = options.documents;
+  if (!options.script.empty()) inputs.push_back(options.script);
+  expectReadable(inputs);
   const auto sink = openTrace(options.trace);
   host::HostLog log(sink.get(), *session);
   host::JobOptions carried(queue.options());
+  Marks implied;
   {
     const host::Refusals refusals(*session);
-    for (const std::string &words : options.options) apply(words, *session, carried);
+    implied = apply(options.options, queue, *session, carried);
     if (options.copies > 0) carried.set("copies", std::to_string(options.copies));
     if (!options.pages.empty()) carried.set("page-ranges", options.pages);
     if (!options.script.empty() && !runScript(options, session, *sink)) return kNotDone;
@@ -138,7 +187,10 @@ int print(const PrintOptions &options) {
       return kNotDone;
     }
   }
-  carried.carry(*session);
+  std::set<std::string> asAttributes;  // carried in the person's own words
+  for (const auto &[key, choice] : implied)
+    if (session->markedChoice(key) == choice) asAttributes.insert(key);
+  carried.carry(*session, asAttributes);
 
   host::PrintJob job{queue.name(), options.title, options.documents, carried.all()};
   if (job.title.empty()) job.title = host::documentName(job.documents.front());

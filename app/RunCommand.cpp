@@ -29,6 +29,7 @@ Command runCommand(const std::function<int(const RunOptions &)> &run) {
 }
 
 int runScript(const RunOptions &options, PlugInModule &module, UserInput &user) {
+  expectReadable({options.ppd, options.script});
   auto session = std::make_shared<host::PpdSession>(host::PpdFile::open(options.ppd),
                                                     !options.noConstraintHandling);
   TextSource script(options.script);

@@ -1,7 +1,10 @@
 #include "host/JobOptions.h"
 
+#include <cups/pwg.h>
+
 #include <algorithm>
 #include <span>
+#include <sstream>
 
 namespace kwopde::host {
 
@@ -53,8 +56,20 @@ bool seemsGiven(const OptionChoice &option) {
 
 /// Whether the option tells of the printer and is none of a job's.
 bool isOfThePrinter(const OptionChoice &option) {
+  if (option.key == "printer-resolution") return false;
   return option.key.starts_with("printer-") || option.key.starts_with("marker-") ||
          option.key == "device-uri" || option.key == "auth-info-required";
+}
+
+/// Returns what a list of media ("A4,Tray2") says beside the paper; empty when it says no more.
+std::string withoutPaper(const std::string &media) {
+  std::string rest;
+  std::istringstream members(media);
+  for (std::string member; std::getline(members, member, ',');)
+    if (!pwgMediaForPWG(member.c_str()) && !pwgMediaForLegacy(member.c_str()) &&
+        !pwgMediaForPPD(member.c_str()))
+      rest += (rest.empty() ? "" : ",") + member;
+  return rest;
 }
 
 auto find(auto &list, std::string_view key) {
@@ -63,6 +78,17 @@ auto find(auto &list, std::string_view key) {
 }
 
 }  // namespace
+
+bool isSameSetting(std::string_view a, std::string_view b) {
+  return isSameKey(a, b) ||
+         std::any_of(std::begin(kNames), std::end(kNames), [&](const auto &names) {
+           const auto has = [&](std::string_view key) {
+             return std::any_of(names.begin(), names.end(),
+                                [&](std::string_view name) { return isSameKey(name, key); });
+           };
+           return has(a) && has(b);
+         });
+}
 
 JobOptions::JobOptions(const std::vector<OptionChoice> &destination,
                        const std::vector<OptionChoice> &queueDefaults) {
@@ -75,15 +101,12 @@ JobOptions::JobOptions(const std::vector<OptionChoice> &destination,
 }
 
 void JobOptions::set(const std::string &key, const std::string &choice) {
-  for (const auto names : kNames) {
-    const auto isOurs = [&](std::string_view name) { return isSameKey(name, key); };
-    if (std::none_of(names.begin(), names.end(), isOurs)) continue;
-    std::erase_if(list_, [&](const OptionChoice &option) {
-      return !isSameKey(option.key, key) &&
-             std::any_of(names.begin(), names.end(),
-                         [&](std::string_view name) { return isSameKey(name, option.key); });
-    });
-  }
+  std::erase_if(list_, [&](Option &option) {
+    if (isSameKey(option.key, key) || !isSameSetting(option.key, key)) return false;
+    // The tray and the kind of paper stay.
+    if (isSameKey(option.key, "media")) option.choice = withoutPaper(option.choice);
+    return !isSameKey(option.key, "media") || option.choice.empty();
+  });
   const auto known = find(list_, key);
   if (known == list_.end())
     list_.push_back({{key, choice}, false});
@@ -92,12 +115,17 @@ void JobOptions::set(const std::string &key, const std::string &choice) {
 }
 
 void JobOptions::setNeutral(const std::string &key, const std::string &choice) {
-  if (value(key)) set(key, choice);
+  if (holds(key)) set(key, choice);
 }
 
 void JobOptions::carry(const PpdSession &session, const std::set<std::string> &others) {
   for (const auto &[key, choice, isDefault] : session.settledChoices())
-    if (!others.contains(key) && (!isDefault || value(key))) set(key, choice);
+    if (!others.contains(key) && (!isDefault || holds(key))) set(key, choice);
+}
+
+bool JobOptions::holds(std::string_view key) const {
+  return std::any_of(list_.begin(), list_.end(),
+                     [&](const OptionChoice &option) { return isSameSetting(option.key, key); });
 }
 
 std::optional<std::string> JobOptions::value(std::string_view key) const {

@@ -12,6 +12,10 @@
 
 namespace kwopde::host {
 
+/// Returns whether both keys name the same setting, such as "media" and "PageSize". Letter case
+/// does not tell them apart.
+bool isSameSetting(std::string_view a, std::string_view b);
+
 /// Options in layers, of which a later one replaces what an earlier one holds: first what is saved
 /// for the destination and the queue's own defaults, then what the person says with -o or sets in
 /// the dialog's own tabs, then what the panels have marked. Letter case does not tell keys apart.
@@ -25,7 +29,7 @@ public:
                       const std::vector<OptionChoice> &queueDefaults = {});
 
   /// Sets `key`, and with an option that goes by several names ("media", "PageSize") takes the
-  /// other names out.
+  /// other names out; what "media" says beside the paper stays.
   void set(const std::string &key, const std::string &choice);
 
   /// Sets `key` to what stands for no choice of the person's, unless the job would carry nothing
@@ -51,6 +55,9 @@ public:
   std::vector<OptionChoice> kept() const;
 
 private:
+  /// Returns whether there is a choice for `key`, under whatever name.
+  bool holds(std::string_view key) const;
+
   struct Option : OptionChoice {
     bool isUsual;  // the queue gives it to every job
   };

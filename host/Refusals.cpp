@@ -30,6 +30,11 @@ std::string refusalText(const PpdSession &session, const std::string &key,
 
 Refusals::Refusals(PpdSession &session) : session_(session) {
   session_.addObserver(this);
+  session_.ppd().forEachOption([this](const ppd_option_t &option) {
+    if (const auto marked = session_.markedChoice(option.keyword);
+        marked && !session_.hasDefaultOfPpd(option.keyword))
+      granted_[option.keyword] = *marked;
+  });
 }
 
 Refusals::~Refusals() {

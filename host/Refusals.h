@@ -14,10 +14,11 @@ namespace kwopde::host {
 std::string refusalText(const PpdSession &session, const std::string &key,
                         const std::string &choice, const Answer &answer);
 
-/// Listens to a session: what was asked for and is not marked in the end.
+/// Listens to a session: what was asked for, or saved before, and is not marked in the end.
 class Refusals final : public SessionObserver {
 public:
-  /// Listens to `session` while it lives; borrowed.
+  /// Listens to `session` while it lives; borrowed. What is marked by now, and is not the PPD's
+  /// default, counts as asked for.
   explicit Refusals(PpdSession &session);
   ~Refusals() override;
 
@@ -25,8 +26,8 @@ public:
                           const Answer &answer) override;
   void willAnnounce(const OptionChoice &change) override;
 
-  /// Returns a sentence for every option that was asked for last with another result than its
-  /// choice being marked.
+  /// Returns a sentence for every option that was asked for with another result than its choice
+  /// being marked.
   std::vector<std::string> sentences() const;
 
 private:

@@ -47,8 +47,8 @@ QString machineText(const QString &typed) {
          typed.mid(number.capturedEnd());
 }
 
-/// Returns `text` with the number that it starts with as people write it: with their decimal sign,
-/// and with at least `decimals` digits after it.
+}  // namespace
+
 QString peoplesText(const QString &text, int decimals) {
   static const QRegularExpression start("^(\\s*[-+]?\\d+)(?:\\.(\\d+))?(?![\\d.eE])");
   const auto number = start.match(text);
@@ -57,8 +57,6 @@ QString peoplesText(const QString &text, int decimals) {
   const QString fraction = digits.isEmpty() ? QString() : QLocale().decimalPoint() + digits;
   return number.captured(1) + fraction + text.mid(number.capturedEnd());
 }
-
-}  // namespace
 
 void QtPopUpButton::removeAllItems() {
   clear();

@@ -71,6 +71,10 @@ public:
   void setStringValue(std::string_view text) override;
 };
 
+/// Returns `text` with the number that it starts with as people write it: with their decimal sign,
+/// and with at least `decimals` digits after it.
+QString peoplesText(const QString &text, int decimals = 0);
+
 /// The view of a panel: it owns the widget, unless somebody has destroyed it already, and its
 /// controls.
 class QtPanelView final : public QtControl<View, QWidget> {

@@ -4,6 +4,8 @@
 #include <QLineEdit>
 #include <QSlider>
 
+#include "qt/QtControls.h"
+
 namespace kwopde::qt {
 
 namespace {
@@ -36,7 +38,7 @@ bool QtUserInput::type(TextField &field, const std::string &text) {
   auto *lineEdit = widgetOf<QLineEdit>(field);
   if (!lineEdit || lineEdit->isReadOnly()) return false;
   lineEdit->selectAll();
-  lineEdit->insert(QString::fromStdString(text));
+  lineEdit->insert(peoplesText(QString::fromStdString(text)));
   return true;
 }
 

@@ -143,10 +143,20 @@ std::vector<std::string> Presets::names() const {
 void Presets::save(const std::string &name, const std::vector<OptionChoice> &options) const {
   if (!name.empty() && !isName(name)) throw Error(fmt::format("{}: not a name for a preset", name));
   const Lock lock;
+  Destinations before(queue_, goesOn_);
   Destinations destinations(queue_, goesOn_);
   destinations.set(name, options);
-  destinations.write();
-  expectSaved(queue_, name, options, goesOn_);
+  try {
+    destinations.write();
+    expectSaved(queue_, name, options, goesOn_);
+  } catch (const Error &) {
+    // What was saved fitted on the disk.
+    try {
+      before.write();
+    } catch (const Error &) {
+    }
+    throw;
+  }
 }
 
 void Presets::remove(const std::string &name) const {

@@ -2,6 +2,8 @@
 
 #include <cups/cups.h>
 #include <fmt/format.h>
+#include <poll.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <array>
@@ -36,12 +38,30 @@ std::vector<Document> openDocuments(const std::vector<std::string> &paths, long 
   return documents;
 }
 
+constexpr int kLook = 50;  // milliseconds between looks at whether it was cancelled
+
 /// Returns as much of `text` as a name on the server can have, in whole characters.
 std::string nameOf(const std::string &text) {
   std::size_t size = std::min<std::size_t>(text.size(), 255);
   while (size > 0 && size < text.size() && (static_cast<unsigned char>(text[size]) & 0xC0) == 0x80)
     --size;
   return text.substr(0, size);
+}
+
+/// Returns the MIME type of the documents, as lp(1) has it of the options.
+std::string formatOf(const std::vector<OptionChoice> &options) {
+  const CupsOptions list(options);
+  if (cupsGetOption("raw", list.count, list.options)) return CUPS_FORMAT_RAW;
+  const char *format = cupsGetOption("document-format", list.count, list.options);
+  return format ? format : CUPS_FORMAT_AUTO;
+}
+
+/// Waits until there is something to read, or its end. Returns false when `goesOn` did.
+bool waitFor(int file, const std::function<bool()> &goesOn) {
+  pollfd ready{file, POLLIN, 0};
+  for (int found = 0; (found = poll(&ready, 1, kLook)) == 0 || (found < 0 && errno == EINTR);)
+    if (!goesOn()) return false;
+  return true;
 }
 
 /// Time for cancelling a job, whose sender may be waiting for it.
@@ -51,7 +71,10 @@ constexpr auto kCancelTime = std::chrono::seconds(5);
 class ServerJob {
 public:
   ServerJob(CupsConnection &server, const PrintJob &job)
-      : server_(server), queue_(job.queue), resource_("/printers/" + job.queue) {
+      : server_(server),
+        queue_(job.queue),
+        resource_("/printers/" + job.queue),
+        format_(formatOf(job.options)) {
     const IppMessage request = requestAbout(queue_, IPP_OP_CREATE_JOB);
     ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", nullptr,
                  nameOf(job.title).c_str());
@@ -77,24 +100,30 @@ public:
     ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "document-name", nullptr,
                  nameOf(document.name).c_str());
     ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_MIMETYPE, "document-format", nullptr,
-                 CUPS_FORMAT_AUTO);
+                 format_.c_str());
     ippAddBoolean(request.get(), IPP_TAG_OPERATION, "last-document", isLast ? 1 : 0);
     bool taken = server_.start(request, resource_);
     std::array<char, 65536> block;
+    const int file = fileno(document.stream.get());
     while (taken) {
-      const std::size_t size = std::fread(block.data(), 1, block.size(), document.stream.get());
+      if (!waitFor(file, [&] { return progress(0); })) return false;
+      const ssize_t size = read(file, block.data(), block.size());
+      if (size < 0 && errno == EINTR) continue;
+      if (size < 0) throw Error(fmt::format("{}: {}", document.name, std::strerror(errno)));
       if (size == 0) break;
-      taken = server_.write(block.data(), size);
-      if (!progress(size)) return false;
+      const auto length = static_cast<std::size_t>(size);
+      taken = server_.write(block.data(), length);
+      if (!progress(length)) return false;
     }
-    if (std::ferror(document.stream.get()))
-      throw Error(fmt::format("{}: {}", document.name, std::strerror(errno)));
     const std::string broken = "did not take all of the document " + document.name;
     mayBePrinted_ = taken && isLast;
-    expect([&] { return server_.answer(); },
-           taken ? "did not confirm the document " + document.name : broken,
+    const auto answer = [&] {
+      IppMessage given = server_.answer();
+      mayBePrinted_ = false;
+      return given;
+    };
+    expect(answer, taken ? "did not confirm the document " + document.name : broken,
            "refused the document " + document.name);
-    mayBePrinted_ = false;
     if (!taken) fail(broken, "its server stopped listening");
     return true;
   }
@@ -143,6 +172,7 @@ private:
   CupsConnection &server_;
   std::string queue_;
   std::string resource_;
+  std::string format_;  // of every document
   int id_ = 0;
   bool mayBePrinted_ = false;
 };

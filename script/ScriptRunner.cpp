@@ -259,7 +259,7 @@ std::string ScriptRunner::set(const std::vector<Word> &words) {
       panel->restoreValuesAndReturnError(nullptr);
       panel->panelView();
       panel->willShow();
-      if (isChoice) return pick({words[0], outlet, words[2]});
+      if (isChoice) return pickBy(&ScriptRunner::choiceIndex, {words[0], outlet, words[2]});
       type({words[0], outlet, words[2]});
       panel->shouldHide();
       return "void";
@@ -267,12 +267,8 @@ std::string ScriptRunner::set(const std::vector<Word> &words) {
   throw host::Error(fmt::format("no panel sets {}: they set {}", key, fmt::join(keys, ", ")));
 }
 
-int ScriptRunner::itemIndex(const Menu &menu, const std::string &name,
-                            const std::string &item) const {
-  int index = 0;
-  const auto read = std::from_chars(item.data(), item.data() + item.size(), index);
-  if (read.ec == std::errc() && read.ptr == item.data() + item.size() && menu.itemAtIndex(index))
-    return index;
+std::optional<int> ScriptRunner::choiceIndex(const Menu &menu, const std::string &name,
+                                             const std::string &item) const {
   // The text of the choice that has this keyword, if it is one.
   const auto point = name.find('.');
   std::string text;
@@ -280,20 +276,34 @@ int ScriptRunner::itemIndex(const Menu &menu, const std::string &name,
     if (option.popUp == name.substr(point + 1))
       if (ppd_option_t *record = ppdFindOption(session_->ppdFile(), option.key.c_str()))
         if (const ppd_choice_t *choice = ppdFindChoice(record, item.c_str())) text = choice->text;
-  for (index = 0; const MenuItem *shown = menu.itemAtIndex(index); ++index)
-    if (shown->title == item || (!text.empty() && shown->title == text)) return index;
-  return -1;
+  for (const std::string &title : {text, item})
+    for (int index = 0; const MenuItem *shown = menu.itemAtIndex(index); ++index)
+      if (!title.empty() && shown->title == title) return index;
+  return {};
+}
+
+std::optional<int> ScriptRunner::itemIndex(const Menu &menu, const std::string &name,
+                                           const std::string &item) const {
+  int index = 0;
+  const auto read = std::from_chars(item.data(), item.data() + item.size(), index);
+  if (read.ec == std::errc() && read.ptr == item.data() + item.size() && menu.itemAtIndex(index))
+    return index;
+  return choiceIndex(menu, name, item);
 }
 
 std::string ScriptRunner::pick(const std::vector<Word> &words) {
+  return pickBy(&ScriptRunner::itemIndex, words);
+}
+
+std::string ScriptRunner::pickBy(FindItem find, const std::vector<Word> &words) {
   auto &popUp = control<PopUpButton>(words[1], "pop-up menu");
   const Menu *menu = popUp.menu();
   if (!menu || !menu->itemAtIndex(0))
     throw host::Error(fmt::format("{} has no items: {}.willShow has not been called", *words[1],
                                   words[1]->substr(0, words[1]->find('.'))));
-  const int index = itemIndex(*menu, *words[1], nameOf(words[2]));
-  if (index < 0) throw host::Error(fmt::format("{} has no item {}", *words[1], nameOf(words[2])));
-  if (!user_.pick(popUp, index))
+  const auto index = (this->*find)(*menu, *words[1], nameOf(words[2]));
+  if (!index) throw host::Error(fmt::format("{} has no item {}", *words[1], nameOf(words[2])));
+  if (!user_.pick(popUp, *index))
     throw host::Error(fmt::format("{} cannot be picked from", *words[1]));
   return "void";
 }

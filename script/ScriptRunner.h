@@ -68,7 +68,14 @@ private:
 
   /// Returns the index of `item` in the menu of the control `name`: an index, a keyword of its
   /// option or a text that it shows. -1 when there is none.
-  int itemIndex(const Menu &menu, const std::string &name, const std::string &item) const;
+  /// Return the index of an item of the pop-up `name`, a word of a script, by keyword or else by
+  /// the text that it shows; `itemIndex` by its index before that. None when there is no such item.
+  std::optional<int> choiceIndex(const Menu &menu, const std::string &name,
+                                 const std::string &item) const;
+  std::optional<int> itemIndex(const Menu &menu, const std::string &name,
+                               const std::string &item) const;
+  using FindItem = decltype(&ScriptRunner::itemIndex);
+  std::string pickBy(FindItem find, const std::vector<Word> &words);
   template <class Control>
   Control &control(const Word &word, std::string_view kind) const;
 

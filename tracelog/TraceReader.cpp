@@ -47,14 +47,20 @@ void readPrefix(std::string_view prefix, Line &line) {
 
 /// Returns the facts "name=value" in a host's line.
 std::map<std::string, std::string> factsIn(std::string_view text) {
-  static const std::regex fact(R"re((\w+)=(?:"((?:[^"\\]|\\.)*)"|(\S*)))re");
   std::map<std::string, std::string> facts;
-  using Facts = std::regex_iterator<std::string_view::const_iterator>;
-  for (Facts found(text.begin(), text.end(), fact); found != Facts(); ++found) {
-    std::string value = (*found)[2].matched ? found->str(2) : found->str(3);
-    for (auto slash = value.find('\\'); slash != value.npos; slash = value.find('\\', slash + 1))
-      value.erase(slash, 1);
-    facts.try_emplace(found->str(1), std::move(value));
+  for (std::size_t sign; (sign = text.find('=')) != text.npos;) {
+    const std::string_view before = text.substr(0, sign);
+    const std::string name(before.substr(before.find_last_of(' ') + 1));
+    text.remove_prefix(sign + 1);
+    const bool isQuoted = text.starts_with('"');
+    std::string value;
+    std::size_t at = isQuoted ? 1 : 0;
+    for (; at < text.size() && text[at] != (isQuoted ? '"' : ' '); ++at) {
+      if (isQuoted && text[at] == '\\' && at + 1 < text.size()) ++at;
+      value += text[at];
+    }
+    text.remove_prefix(std::min(text.size(), at + 1));
+    if (!name.empty()) facts.try_emplace(name, std::move(value));
   }
   return facts;
 }
@@ -137,7 +143,10 @@ private:
     const auto &calls = calls_[line.process];
     auto facts = factsIn(line.text);
     if (!line.text.starts_with("request ")) {
-      if (!line.text.starts_with("marked ")) dialog.facts.merge(facts);
+      if (line.text.starts_with("marked ")) return;
+      if (line.text.starts_with("sent ")) dialog.facts.erase("why");  // of a try before
+      facts.merge(dialog.facts);
+      dialog.facts = std::move(facts);
       return;
     }
     std::vector<std::string> details;

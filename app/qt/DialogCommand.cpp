@@ -79,6 +79,9 @@ std::vector<std::string> documentFiles(const std::vector<std::string> &documents
       files.push_back(document);
       continue;
     }
+    if (!copies.isValid())
+      throw host::Error(fmt::format("{}: there is no folder for a copy: {}", document,
+                                    copies.errorString().toStdString()));
     // Each in a folder of its own, since two may have one name.
     const auto folder =
         std::filesystem::path(copies.path().toStdString()) / std::to_string(files.size());

@@ -212,6 +212,8 @@ Result runSessionsApart(const ValidateOptions &options) {
 /// Runs what is chosen, each in a process of its own, so that a crash costs one result.
 std::vector<Result> runAllApart(ValidateOptions options) {
   QTemporaryDir folder;
+  if (options.keep.empty() && !folder.isValid())
+    throw host::Error("there is no temporary folder: " + folder.errorString().toStdString());
   if (options.keep.empty()) options.keep = folder.path().toStdString();
   std::vector<Result> results;
   for (const check::Check &check : check::checks())

@@ -115,6 +115,13 @@ protected:
                                             "application/vnd.cups-pdf 0 " + filter));
   }
 
+  /// The PPD of a printer that has no matte paper in 8x10.
+  std::string withoutMatteLargePaper() const {
+    return folder_.write("paper.ppd", contents(ppd_) +
+                                          "*UIConstraints: *printFinish Matte *PageSize 8x10\n"
+                                          "*UIConstraints: *PageSize 8x10 *printFinish Matte\n");
+  }
+
   /// The attributes of lp's job for these words.
   Attributes byLp(const std::string &words) {
     const Output lp = run("lp " + words + ' ' + document_);
@@ -144,6 +151,7 @@ TEST_F(Jobs, OfPrintAreThoseOfLp) {
        "-d jobs -o sides=one-sided"},
       {"", "-o pageScale-default=85 -o copies-default=2", "-d jobs"},
       {"", "-o pageScale-default=85", "-d jobs -o pageScale=100"},
+      {"-p jobs -o printer-resolution=600dpi", "", "-d jobs -n 010 -o media=8x10"},
       {"-p jobs/photo -o printFinish=Satin -o pageScale=120", "", "-d jobs/photo"},
       {"-p jobs/photo -o printFinish=Satin", "", "-d jobs/photo -o printFinish=Glossy"},
   };
@@ -153,6 +161,49 @@ TEST_F(Jobs, OfPrintAreThoseOfLp) {
     ASSERT_EQ(print.status, 0) << print.text;
     EXPECT_EQ(carriedBy(jobIn(print.text)), byLp(row.words)) << row.saved << " | " << row.words;
   }
+}
+
+// lp sends every name of an option; a filter sees the same of both jobs.
+TEST_F(Jobs, OfPrintAreMarkedAsThoseOfLpByWhateverName) {
+  const auto marked = [](Attributes attributes) {
+    std::erase_if(attributes,
+                  [](const auto &entry) { return !entry.first.starts_with("marked "); });
+    return attributes;
+  };
+  for (const char *words : {"-d jobs -o PageSize=4x6", "-d jobs -o PageSize=5x7"}) {
+    given("-p jobs -o media=8x10,Tray2", "");
+    const auto print = carriedBy(
+        jobIn(run(std::string(KWOPDE_COMMAND) + " print " + words + ' ' + document_).text));
+    EXPECT_EQ(marked(print), marked(byLp(words))) << words;
+    EXPECT_THAT(print, Contains(Pair("media", "Tray2"))) << words;
+  }
+}
+
+TEST_F(Jobs, AreOfTheDocumentsThatAreNamed) {
+  given("", "");
+  const std::string kwopde = std::string(KWOPDE_COMMAND) + " print -d jobs ";
+  for (const std::string words : {"-o raw ", "-o document-format=text/plain "})
+    EXPECT_EQ(attributesOf(jobIn(run(kwopde + words + document_).text))["document-format-supplied"],
+              attributesOf(
+                  jobIn(run("lp -d jobs " + words + document_).text))["document-format-supplied"]);
+  const std::string bracketed = folder_.write("[page.txt]", "another page");
+  EXPECT_THAT(attributesOf(jobIn(run(kwopde + "'" + bracketed + "'").text))["job-name"],
+              testing::HasSubstr("[page.txt]"));
+  const Output twice = run(kwopde + "--script - - </dev/null");
+  EXPECT_EQ(twice.status, 2);
+  EXPECT_THAT(twice.text, testing::HasSubstr("standard input can be read only once"));
+  // The server has said no: nothing is printed.
+  const Output refused = run(kwopde + "- </dev/null");
+  EXPECT_EQ(refused.status, 1);
+  EXPECT_THAT(refused.text, testing::HasSubstr("Check the printer and try again"));
+  const std::string here = "cd $(dirname " + document_ + ") && ";
+  const Output homeless = run(here + "TMPDIR=/dev/null " + std::string(KWOPDE_COMMAND) +
+                              " dialog --snapshot . - </dev/null");
+  EXPECT_EQ(homeless.status, 2) << homeless.text;
+  // A producer that is silent does not keep it from ending when it is told to.
+  const Output told = run(here + "mkfifo silent && (sleep 90 >silent & timeout -k 20 3 " + kwopde +
+                          "silent; status=$?; kill $!; exit $status)");
+  EXPECT_EQ(told.status, 124) << told.text;
 }
 
 TEST_F(Jobs, AreOfWhatComesThroughAPipeToo) {
@@ -175,14 +226,20 @@ TEST_F(Jobs, OfPrintAreHeldBackForWhatIsRefused) {
   const struct {
     const char *words;
     const char *says;
+    const char *saved = "";
   } rows[] = {
+      {"-o printFinish=Matte", "Media Size: 8x10 does not go with Print Finish: Matte",
+       "-p jobs -o media=8x10"},
+      {"-o media=8x10 -o printFinish=Matte",
+       "Print Finish: Matte does not go with Media Size: 8x10"},
       {"-o pageScale=3", "Page Scale cannot be 3: this printer takes 10 to 400"},
       {"-o printQuality=Best", "Print Quality cannot be Best: this printer has no such choice"},
       {"-o dustRemoval=Thorough -o printQuality=Draft",
        "Dust Removal: Thorough does not go with Print Quality: Draft, and would become Off"},
   };
-  given("", "");
+  ppd_ = withoutMatteLargePaper();
   for (const auto &row : rows) {
+    given(row.saved, "");
     const std::string command = std::string(KWOPDE_COMMAND) + " print -d jobs " + row.words;
     const Output refused = run(command + ' ' + document_);
     EXPECT_EQ(refused.status, 1);
@@ -349,9 +406,7 @@ TEST_F(DialogJobs, KeepWhatIsTypedAndAskAboutWhatIsRefused) {
 
 // Qt's Properties and the panels show the same, and the last that was touched wins.
 TEST_F(DialogJobs, ShareWhatQtsPropertiesHold) {
-  ppd_ = folder_.write("paper.ppd", contents(ppd_) +
-                                        "*UIConstraints: *printFinish Matte *PageSize 8x10\n"
-                                        "*UIConstraints: *PageSize 8x10 *printFinish Matte\n");
+  ppd_ = withoutMatteLargePaper();
   given("-p jobs -o dustRemoval=Thorough -o printQuality=Draft", "");
   printer_.setPrinterName("jobs");
   dialog::QueueDialog dialog(dialog::loadModule(), printer_, {document_});

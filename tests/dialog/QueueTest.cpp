@@ -29,6 +29,7 @@
 #include "host/JobOptions.h"
 #include "host/TraceTo.h"
 #include "queue/CupsConnection.h"
+#include "queue/Presets.h"
 #include "queue/PrintJob.h"
 #include "queue/PrintQueue.h"
 #include "tests/support/JobAttributes.h"
@@ -141,6 +142,16 @@ TEST(Queue, SavedOptionsOfTheUserAreMarked) {
   cupsSetDests2(nullptr, 1, dest);
   cupsFreeDests(1, dest);
   EXPECT_EQ(PrintQueue("").name(), "kwo-7032");
+}
+
+TEST(Queue, KeepsItsPresetsWhenAnotherOneCannotBeSaved) {
+  const host::Presets presets("kwo-7032");
+  presets.save("matte", {{"printFinish", "Matte"}});
+  EXPECT_THROW(presets.save("torn", {{"note", "one line\nDest kwo-7032/stray note=1"}}),
+               host::Error);
+  EXPECT_THAT(presets.names(), testing::ElementsAre("matte"));
+  EXPECT_EQ(PrintQueue("kwo-7032/matte").openSession()->markedChoice("printFinish"), "Matte");
+  presets.remove("matte");
 }
 
 TEST(Queue, IsReadAgainWhenItChangedAndIsAlwaysAsIfItWere) {

@@ -10,6 +10,7 @@
 #include "qt/ChoiceMenu.h"
 #include "qt/QtBundle.h"
 #include "qt/QtControls.h"
+#include "qt/QtUserInput.h"
 #include "tests/support/PanelFixture.h"
 
 namespace kwopde::test {
@@ -165,6 +166,8 @@ TEST(QtTextField, HasNumbersAsPeopleWriteThem) {
   EXPECT_EQ(field.doubleValue(), 1.78);
   field.setStringValue("100 %");
   EXPECT_EQ(line.text(), QString("100 %"));
+  qt::QtUserInput().type(field, "1.78");  // what types for a person, not what a person types
+  EXPECT_EQ(field.doubleValue(), 1.78);
   // Digits are added, never cut.
   line.setProperty("decimals", 2);
   for (const auto &[text, shown] : {std::pair("1", "1,00"),
