@@ -10,6 +10,7 @@
 #include <string_view>
 #include <type_traits>
 #include <variant>
+#include <vector>
 
 #include "app/Output.h"
 #include "host/Error.h"
@@ -17,6 +18,22 @@
 namespace kwopde::app {
 
 namespace {
+
+/// Stands before a word in brackets, which CLI11 would take for a list.
+constexpr char kPlain = '\x1F';
+
+/// Returns the arguments in the order in which CLI11 takes them: from the last one on.
+std::vector<std::string> wordsOf(int argc, char **argv) {
+  std::vector<std::string> words(argv + std::min(argc, 1), argv + argc);
+  std::reverse(words.begin(), words.end());
+  for (std::string &word : words)
+    if (word.starts_with('[') && word.ends_with(']')) word.insert(0, 1, kPlain);
+  return words;
+}
+
+std::string plainText(const std::string &word) {
+  return word.starts_with(kPlain) ? word.substr(1) : word;
+}
 
 /// Returns a number without the zeros in front, with which CLI11 takes it for an octal one.
 std::string decimalText(const std::string &text) {
@@ -61,9 +78,9 @@ template <class Value>
 CLI::Option *addTarget(CLI::App &command, const Option &option, Value *target) {
   CLI::Option *row = command.add_option(option.names, *target, option.description);
   row->type_name(option.value);
-  // One value each time that it is given: what follows stands for itself, and so do brackets.
-  row->allow_extra_args(false);
-  if constexpr (std::is_integral_v<Value>) row->transform(decimalText);
+  // One value each time that it is given: what follows stands for itself.
+  if (option.names.starts_with('-')) row->allow_extra_args(false);
+  row->transform(std::is_integral_v<Value> ? decimalText : plainText);
   if (*target != Value()) row->capture_default_str();
   return row;
 }
@@ -110,7 +127,7 @@ int parseAndRun(int argc, char **argv, const std::vector<Command> &commands) {
   for (const Command &command : commands) add(commandLine, command);
   try {
     expectCommand(argc, argv, commands);
-    commandLine.parse(argc, argv);
+    commandLine.parse(wordsOf(argc, argv));
     for (const Command &command : commands)
       if (commandLine.got_subcommand(command.name)) return command.run();
     return kBadInput;

@@ -187,8 +187,9 @@ TEST_F(Jobs, AreOfTheDocumentsThatAreNamed) {
               attributesOf(
                   jobIn(run("lp -d jobs " + words + document_).text))["document-format-supplied"]);
   const std::string bracketed = folder_.write("[page.txt]", "another page");
-  EXPECT_THAT(attributesOf(jobIn(run(kwopde + "'" + bracketed + "'").text))["job-name"],
-              testing::HasSubstr("[page.txt]"));
+  const int job = jobIn(run(kwopde + "'" + bracketed + "' " + document_).text);
+  EXPECT_THAT(attributesOf(job)["job-name"], testing::HasSubstr("[page.txt]"));
+  EXPECT_EQ(attributesOf(job)["number-of-documents"], "2");
   const Output twice = run(kwopde + "--script - - </dev/null");
   EXPECT_EQ(twice.status, 2);
   EXPECT_THAT(twice.text, testing::HasSubstr("standard input can be read only once"));
