@@ -47,9 +47,8 @@ private:
 /// A panel of class `P`; null when it was refused.
 template <class P>
 struct PanelOn {
-  explicit PanelOn(const std::string &options, bool handlesConstraints = true)
+  explicit PanelOn(const std::string &options)
       : ppd(options), host(std::make_shared<RecordingHost>(ppd.get())) {
-    host->handlesConstraints = handlesConstraints;
     panel = PanelBase::initWithCallback<P>(host, bundle.get());
   }
 

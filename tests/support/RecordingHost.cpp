@@ -10,7 +10,6 @@ namespace kwopde::test {
 
 bool RecordingHost::willChangePPDOptionKeyValue(const std::string *key, const std::string *choice) {
   requests.push_back((key ? *key : "nil") + "=" + (choice ? *choice : "nil"));
-  if (duringRequest) duringRequest();
   ppd_option_t *option = key ? ppdFindOption(ppd_, key->c_str()) : nullptr;
   if (refuses || !option || !choice || !ppdFindChoice(option, choice->c_str())) return false;
   ppdMarkOption(ppd_, key->c_str(), choice->c_str());

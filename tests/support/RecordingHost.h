@@ -25,13 +25,11 @@ public:
   }
   bool respondsToSelector(std::string_view) const override {
     asked.emplace_back("respondsToSelector");
-    return handlesConstraints;
+    return true;
   }
   bool willChangePPDOptionKeyValue(const std::string *key, const std::string *choice) override;
 
-  bool handlesConstraints = true;
   bool refuses = false;
-  std::function<void()> duringRequest;
   std::function<void()> atEnd;
   mutable std::vector<std::string> asked;  // operations without requests
   std::vector<std::string> requests;       // "KEY=CHOICE", with nil for null
