@@ -34,21 +34,6 @@ std::string expanded(std::string_view format, std::initializer_list<PrintfArgume
   return line.substr(line.find(' ') + 1);
 }
 
-TEST(Trace, IndentsByCallDepth) {
-  const Named d("D");
-  TraceRecorder trace;
-  PDEProlog(&d, "a");
-  PDEProlog(&d, "b");
-  PDELog(&d, "c");
-  PDEEpilog(&d, "d");
-  PDELog(&d, "e");
-  PDEEpilog(&d, "f");
-  PDELog(&d, "g");
-  EXPECT_THAT(trace.take(), ElementsAre("BEGIN self(D) a", "    BEGIN self(D) b",
-                                        "        LOG self(D) c", "    END self(D) d",
-                                        "    LOG self(D) e", "END self(D) f", "LOG self(D) g"));
-}
-
 TEST(Trace, WithoutObjectNeitherIndentsNorCounts) {
   const Named d("D");
   TraceRecorder trace;
