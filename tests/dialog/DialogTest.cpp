@@ -4,14 +4,10 @@
 #include <QAbstractItemView>
 #include <QAbstractSpinBox>
 #include <QAccessible>
-#include <QApplication>
-#include <QDialogButtonBox>
 #include <QLabel>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
-#include <QTabWidget>
-#include <QTest>
 #include <set>
 
 #include "dialog/ModuleLoader.h"
@@ -19,6 +15,7 @@
 #include "host/Error.h"
 #include "host/JobOptions.h"
 #include "host/TraceTo.h"
+#include "tests/support/Dialogs.h"
 #include "tests/support/PanelFixture.h"
 #include "tests/support/TemporaryFolder.h"
 #include "tests/support/Walk.h"
@@ -58,9 +55,7 @@ protected:
   }
   template <class Widget>
   Widget &widget(const char *name) {
-    auto *found = dialog_->findChild<Widget *>(name);
-    if (!found) throw std::runtime_error(name);
-    return *found;
+    return test::widget<Widget>(*dialog_, name);
   }
 
   std::vector<std::string> changed() {
@@ -83,9 +78,7 @@ protected:
 
 TEST_F(Dialog, HasATabForEveryPanelAndTheSummary) {
   open("kwo-7032.ppd");
-  QStringList titles;
-  for (int i = 0; i < tabs_->count(); ++i) titles.append(tabs_->tabText(i));
-  EXPECT_EQ(titles, QStringList({"Media", "Color", "Sharpen", "Summary"}));
+  EXPECT_EQ(tabTitles(*dialog_), QStringList({"Media", "Color", "Sharpen", "Summary"}));
 }
 
 TEST_F(Dialog, LoadsAPanelWhenItsTabIsFirstSeenAndTellsItOfShowingAndLeaving) {
@@ -105,8 +98,7 @@ TEST_F(Dialog, LoadsAPanelWhenItsTabIsFirstSeenAndTellsItOfShowingAndLeaving) {
 TEST_F(Dialog, CarriesEverySettingToTheHost) {
   open("kwo-7032.ppd");
   QTest::keyClick(&widget<QComboBox>("printQualityPopUp"), Qt::Key_Down);
-  widget<QLineEdit>("pageScaleEdit").selectAll();
-  QTest::keyClicks(&widget<QLineEdit>("pageScaleEdit"), "85");
+  retype(widget<QLineEdit>("pageScaleEdit"), "85");
   EXPECT_THAT(std::exchange(requests_.all, {}), ElementsAre("printQuality=Fine"));
 
   QTest::keyClick(tabs_->tabBar(), Qt::Key_Right);
@@ -224,8 +216,7 @@ TEST_F(Dialog, TellsWhatIsOtherThanThePrintersDefaultsAndPutsThatBack) {
   EXPECT_EQ(differences(), QString());
   QTest::keyClick(&widget<QComboBox>("printQualityPopUp"), Qt::Key_Down);
   EXPECT_EQ(differences(), "One setting differs from the printer's defaults.");
-  widget<QLineEdit>("pageScaleEdit").selectAll();
-  QTest::keyClicks(&widget<QLineEdit>("pageScaleEdit"), "85");  // typed, and not marked yet
+  retype(widget<QLineEdit>("pageScaleEdit"), "85");  // typed, and not marked yet
   EXPECT_EQ(differences(), "2 settings differ from the printer's defaults.");
   EXPECT_TRUE(isBold("printQualityLabel") && isBold("pageScaleLabel"));
   EXPECT_FALSE(isBold("printFinishLabel"));
@@ -265,21 +256,14 @@ TEST_F(Dialog, IsWorkedByTheKeyboardAloneAndSeenWithoutScrolling) {
   const auto check = [&] {
     open("kwo-7032.ppd");
     dialog_->resize(dialog_->sizeHint());  // as on a screen that is large enough
-    QTest::keyClick(dialog_->focusWidget(), Qt::Key_Tab, Qt::ControlModifier);
-    EXPECT_EQ(tabs_->currentIndex(), 1) << "Ctrl+Tab, at once";
+    expectUsable(*dialog_, 0);
+    tabs_->setCurrentIndex(1);
     tabs_->tabBar()->setFocus();
     auto order = tabOrder(*dialog_);
     EXPECT_THAT(order, Contains("help"));
     order.resize(5);
     EXPECT_THAT(order, ElementsAre("qt_tabwidget_tabbar", "colorModePopUp", "brightnessSlider",
                                    "brightnessLabelBox", "contrastSlider"));
-    for (int page = 0; page < tabs_->count(); ++page) {
-      tabs_->setCurrentIndex(page);
-      EXPECT_THAT(tabOrder(*dialog_), testing::UnorderedElementsAreArray(tabStops(*dialog_)));
-      EXPECT_THAT(sharedMnemonics(*tabs_->currentWidget()), testing::IsEmpty());
-      EXPECT_NE(helpOf(*dialog_), "") << page;
-      EXPECT_EQ(cutOff(*tabs_->currentWidget()), "") << page;
-    }
   };
   check();
   std::set<QString> titles{tabs_->tabText(3)};

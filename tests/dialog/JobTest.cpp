@@ -5,24 +5,19 @@
 
 #include <sys/wait.h>
 #include <unistd.h>
-#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QInputDialog>
 #include <QLabel>
-#include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSpinBox>
-#include <QTabWidget>
-#include <QTest>
 #include <QTimer>
 #include <QToolButton>
 #include <cstdio>
-#include <fstream>
 #include <map>
 #include <regex>
 #include <sstream>
@@ -30,11 +25,11 @@
 #include "attach/kwopde/attach.h"
 #include "dialog/AdvancedOptions.h"
 #include "dialog/ModuleLoader.h"
-#include "dialog/PrinterOptions.h"
 #include "dialog/QueueDialog.h"
 #include "dialog/SettingsDialog.h"
 #include "host/Error.h"
 #include "queue/Presets.h"
+#include "tests/support/Dialogs.h"
 #include "tests/support/JobAttributes.h"
 #include "tests/support/TemporaryFolder.h"
 
@@ -122,6 +117,11 @@ protected:
                                           "*UIConstraints: *PageSize 8x10 *printFinish Matte\n");
   }
 
+  /// Runs kwopde print with these words.
+  Output kwopdePrint(const std::string &words) {
+    return run(KWOPDE_COMMAND " print " + words + ' ' + document_);
+  }
+
   /// The attributes of lp's job for these words.
   Attributes byLp(const std::string &words) {
     const Output lp = run("lp " + words + ' ' + document_);
@@ -157,9 +157,9 @@ TEST_F(Jobs, OfPrintAreThoseOfLp) {
   };
   for (const auto &row : rows) {
     given(row.saved, row.serverDefaults);
-    const Output print = run(std::string(KWOPDE_COMMAND) + " print " + row.words + ' ' + document_);
-    ASSERT_EQ(print.status, 0) << print.text;
-    EXPECT_EQ(carriedBy(jobIn(print.text)), byLp(row.words)) << row.saved << " | " << row.words;
+    const Output printed = kwopdePrint(row.words);
+    ASSERT_EQ(printed.status, 0) << printed.text;
+    EXPECT_EQ(carriedBy(jobIn(printed.text)), byLp(row.words)) << row.saved << " | " << row.words;
   }
 }
 
@@ -241,70 +241,61 @@ TEST_F(Jobs, OfPrintAreHeldBackForWhatIsRefused) {
   ppd_ = withoutMatteLargePaper();
   for (const auto &row : rows) {
     given(row.saved, "");
-    const std::string command = std::string(KWOPDE_COMMAND) + " print -d jobs " + row.words;
-    const Output refused = run(command + ' ' + document_);
+    const std::string words = std::string("-d jobs ") + row.words;
+    const Output refused = kwopdePrint(words);
     EXPECT_EQ(refused.status, 1);
     EXPECT_THAT(refused.text, testing::HasSubstr(row.says));
     EXPECT_EQ(jobIn(refused.text), 0);
-    EXPECT_NE(jobIn(run(command + " --force " + document_).text), 0);
+    EXPECT_NE(jobIn(kwopdePrint(words + " --force").text), 0);
   }
   const Output resolved =
-      run(std::string(KWOPDE_COMMAND) +
-          " print -d jobs -o dustRemoval=Thorough -o printQuality=Draft -o dustRemoval=Off " +
-          document_);
+      kwopdePrint("-d jobs -o dustRemoval=Thorough -o printQuality=Draft -o dustRemoval=Off");
   EXPECT_EQ(resolved.status, 0) << resolved.text;
 }
 
 class DialogJobs : public Jobs {
 protected:
-  template <class Widget>
-  static Widget &widget(QDialog &dialog, const char *name) {
-    auto *found = dialog.findChild<Widget *>(name);
-    if (!found) throw std::runtime_error(name);
-    return *found;
-  }
-  static void show(QPrintDialog &dialog, int tab) {
-    dialog.show();
-    dialog::expandOptions(dialog);
-    dialog.findChild<QTabWidget *>()->setCurrentIndex(tab);
-    QApplication::processEvents();
-  }
-
   /// Saves options that what is set in the dialog has to replace.
-  void givenSaved(QPrinter &printer) {
+  void givenSaved() {
     given(
         "-p jobs -o printFinish=Matte -o pageScale=85 -o sides=two-sided-long-edge "
         "-o PageSize=8x10 -o job-sheets=standard",
         "-o rotateImage-default=Rotate90");
-    printer.setPrinterName("jobs");
+  }
+
+  dialog::QueueDialog queueDialog() {
+    printer_.setPrinterName("jobs");
+    return {dialog::loadModule(), printer_, {document_}};
+  }
+
+  /// Accepts `dialog`, and returns what its job carries; nothing when there is none.
+  static Attributes sentBy(dialog::QueueDialog &dialog) {
+    dialog.accept();
+    EXPECT_TRUE(dialog.jobId());
+    return dialog.jobId() ? carriedBy(*dialog.jobId()) : Attributes();
   }
 
   /// Sets the options of the panel that are saved back to the printer's own.
   static void setPanels(QPrintDialog &dialog) {
-    show(dialog, 2);
+    showAt(dialog, 2);
     QTest::keyClick(&widget<QComboBox>(dialog, "printFinishPopUp"), Qt::Key_Home);
     QTest::keyClick(&widget<QComboBox>(dialog, "rotateImagePopUp"), Qt::Key_Home);
-    auto &scale = widget<QLineEdit>(dialog, "pageScaleEdit");
-    scale.setFocus();
-    scale.selectAll();
-    QTest::keyClicks(&scale, "100");
+    retype(widget<QLineEdit>(dialog, "pageScaleEdit"), "100");
   }
 
   QPrinter printer_;
 };
 
 TEST_F(DialogJobs, CarryWhatItsTabsAndPanelsShow) {
-  givenSaved(printer_);
-  dialog::QueueDialog dialog(dialog::loadModule(), printer_, {document_});
+  givenSaved();
+  dialog::QueueDialog dialog = queueDialog();
   setPanels(dialog);
   widget<QSpinBox>(dialog, "copies").setValue(3);
   widget<QCheckBox>(dialog, "reverse").setChecked(true);
   widget<QRadioButton>(dialog, "pagesRadioButton").click();
   QTest::keyClicks(&widget<QLineEdit>(dialog, "pagesLineEdit"), "2,4-5");
   widget<QComboBox>(dialog, "pageSetCombo").setCurrentIndex(2);  // even, of the document's
-  dialog.accept();
-  ASSERT_TRUE(dialog.jobId());
-  const auto job = carriedBy(*dialog.jobId());
+  const auto job = sentBy(dialog);
   given("", "");
   auto lp = byLp(
       "-d jobs -n 3 -P 2,4-5 -o page-set=even -o Collate=True -o PageSize=8x10 -o sides=one-sided "
@@ -314,8 +305,8 @@ TEST_F(DialogJobs, CarryWhatItsTabsAndPanelsShow) {
 }
 
 TEST_F(DialogJobs, CarryWhatPropertiesHoldsOnceItWasOpened) {
-  givenSaved(printer_);
-  dialog::QueueDialog dialog(dialog::loadModule(), printer_, {document_});
+  givenSaved();
+  dialog::QueueDialog dialog = queueDialog();
   dialog.show();
   QTimer::singleShot(0, &dialog, [] {
     auto *properties = qobject_cast<QDialog *>(QApplication::activeModalWidget());
@@ -328,9 +319,7 @@ TEST_F(DialogJobs, CarryWhatPropertiesHoldsOnceItWasOpened) {
     properties->accept();
   });
   widget<QPushButton>(dialog, "properties").click();
-  dialog.accept();
-  ASSERT_TRUE(dialog.jobId());
-  const auto job = carriedBy(*dialog.jobId());
+  const auto job = sentBy(dialog);
   given("", "-o rotateImage-default=Rotate90");
   EXPECT_EQ(job, byLp("-d jobs -o media=5x7 -o landscape -o number-up=2 -o number-up-layout=lrtb "
                       "-o job-sheets=none,none -o sides=one-sided -o printFinish=Matte "
@@ -339,8 +328,9 @@ TEST_F(DialogJobs, CarryWhatPropertiesHoldsOnceItWasOpened) {
 
 TEST_F(DialogJobs, OfAttachedDialogsHaveThePanelsAndLeaveTheRestToQt) {
   const auto print = [&](bool withPanels) {
+    givenSaved();
     QPrinter printer;
-    givenSaved(printer);
+    printer.setPrinterName("jobs");
     QPrintDialog dialog(&printer);
     if (withPanels) {
       EXPECT_TRUE(attachPanels(&dialog));
@@ -380,38 +370,29 @@ TEST_F(DialogJobs, OfAttachedDialogsHaveThePanelsAndLeaveTheRestToQt) {
 // person before anything is sent.
 TEST_F(DialogJobs, KeepWhatIsTypedAndAskAboutWhatIsRefused) {
   given("", "");
-  printer_.setPrinterName("jobs");
-  dialog::QueueDialog dialog(dialog::loadModule(), printer_, {document_});
-  show(dialog, 2);
+  dialog::QueueDialog dialog = queueDialog();
+  showAt(dialog, 2);
   QApplication::setActiveWindow(&dialog);
   auto &scale = widget<QLineEdit>(dialog, "pageScaleEdit");
-  const auto type = [&](const char *text) {
-    scale.setFocus();
-    scale.selectAll();
-    QTest::keyClicks(&scale, text);
-  };
-  type("85");
+  retype(scale, "85");
   widget<QComboBox>(dialog, "printFinishPopUp").setFocus();
   QTest::keyClick(&widget<QComboBox>(dialog, "printFinishPopUp"), Qt::Key_Down);
   EXPECT_EQ(scale.text(), "85 %");
-  type("3");
+  retype(scale, "3");
   dialog.findChild<QTabWidget *>()->setCurrentIndex(3);
   dialog.accept();
   EXPECT_TRUE(dialog.isVisible());
   EXPECT_EQ(dialog.focusWidget(), scale.focusProxy());
   EXPECT_EQ(dialog.findChild<QTabWidget *>()->currentIndex(), 2);
-  dialog.accept();
-  ASSERT_TRUE(dialog.jobId());
-  EXPECT_THAT(carriedBy(*dialog.jobId()), Contains(Pair("pageScale", "85")));
+  EXPECT_THAT(sentBy(dialog), Contains(Pair("pageScale", "85")));
 }
 
 // Qt's Properties and the panels show the same, and the last that was touched wins.
 TEST_F(DialogJobs, ShareWhatQtsPropertiesHold) {
   ppd_ = withoutMatteLargePaper();
   given("-p jobs -o dustRemoval=Thorough -o printQuality=Draft", "");
-  printer_.setPrinterName("jobs");
-  dialog::QueueDialog dialog(dialog::loadModule(), printer_, {document_});
-  show(dialog, 2);
+  dialog::QueueDialog dialog = queueDialog();
+  showAt(dialog, 2);
   EXPECT_EQ(widget<QLabel>(dialog, "notice").text().toStdString(),
             "This printer cannot do these together: Dust Removal: Thorough, Print Quality: Draft.");
   QTest::keyClick(&widget<QComboBox>(dialog, "dustRemovalPopUp"), Qt::Key_Home);
@@ -464,9 +445,8 @@ TEST_F(DialogJobs, AreNotSentWithTheOptionsOfAPpdThatWasReplaced) {
   const auto areTheirs = testing::AllOf(Contains(Pair("marked printQuality", "Draft")),
                                         Contains(Pair("marked rotateImage", "None")));
   given("-p jobs -o rotateImage=Rotate90", "");
-  printer_.setPrinterName("jobs");
-  dialog::QueueDialog dialog(dialog::loadModule(), printer_, {document_});
-  show(dialog, 2);
+  dialog::QueueDialog dialog = queueDialog();
+  showAt(dialog, 2);
   acceptTwice(dialog);
   ASSERT_TRUE(dialog.jobId());
   EXPECT_THAT(carriedBy(*dialog.jobId()), areTheirs);
@@ -481,8 +461,7 @@ TEST_F(DialogJobs, AreNotSentWithTheOptionsOfAPpdThatWasReplaced) {
 // Nor without what is saved for a printer, when the server does not tell.
 TEST_F(DialogJobs, AreNotSentWhileNothingIsKnownOfThePrinter) {
   given("-p jobs/photo -o printFinish=Satin", "");
-  printer_.setPrinterName("jobs");
-  dialog::QueueDialog dialog(dialog::loadModule(), printer_, {document_});
+  dialog::QueueDialog dialog = queueDialog();
   dialog.setUnattended();
   dialog.show();
   run("lpoptions -x jobs/photo");
@@ -492,9 +471,7 @@ TEST_F(DialogJobs, AreNotSentWhileNothingIsKnownOfThePrinter) {
   EXPECT_THAT(dialog.problem().toStdString(), testing::HasSubstr("jobs has no preset photo"));
   run("lpoptions -p jobs/photo -o printFinish=Satin");
   dialog.accept();  // asks anew
-  dialog.accept();
-  ASSERT_TRUE(dialog.jobId());
-  EXPECT_THAT(carriedBy(*dialog.jobId()), Contains(Pair("printFinish", "Satin")));
+  EXPECT_THAT(sentBy(dialog), Contains(Pair("printFinish", "Satin")));
 }
 
 class Presets : public DialogJobs {
@@ -521,8 +498,7 @@ protected:
 
 TEST_F(Presets, AreKeptChosenAndDeletedInTheDialog) {
   given("-p jobs -o printFinish=Matte", "");
-  printer_.setPrinterName("jobs");
-  dialog::QueueDialog dialog(dialog::loadModule(), printer_, {document_});
+  dialog::QueueDialog dialog = queueDialog();
   setPanels(dialog);  // printFinish=Glossy, the printer's default
   auto &sides = widget<QRadioButton>(dialog, "duplexLong");
   sides.setEnabled(true);  // as with a printer that does it
@@ -556,10 +532,8 @@ TEST_F(Presets, AreKeptChosenAndDeletedInTheDialog) {
   emit widget<QComboBox>(dialog, "presets").activated(1);
   QTest::qWait(10);
   EXPECT_EQ(widget<QComboBox>(dialog, "printFinishPopUp").currentText(), "Glossy");
-  dialog.accept();
-  ASSERT_TRUE(dialog.jobId());
-  const auto lp = byLp("-d jobs/Warm-photo -o sides=one-sided");  // as Qt shows, without Duplex
-  EXPECT_EQ(carriedBy(*dialog.jobId()), lp);
+  // As Qt shows, without Duplex.
+  EXPECT_EQ(sentBy(dialog), byLp("-d jobs/Warm-photo -o sides=one-sided"));
   dialog.show();
   pick(dialog, "delete");
   EXPECT_EQ(shown(), "My settings");
@@ -622,7 +596,7 @@ TEST_F(DialogJobs, KeepWhatIsSetWhenPrintersAreSwitchedAndTheDialogOpensAnew) {
   printer_.setPrinterName("jobs");
   QPrintDialog first(&printer_);
   ASSERT_TRUE(attachPanels(&first));
-  show(first, 3);
+  showAt(first, 3);
   QTest::keyClick(&widget<QComboBox>(first, "colorModePopUp"), Qt::Key_End);
   const QString picked = widget<QComboBox>(first, "colorModePopUp").currentText();
   auto &printers = widget<QComboBox>(first, "printers");
@@ -635,7 +609,7 @@ TEST_F(DialogJobs, KeepWhatIsSetWhenPrintersAreSwitchedAndTheDialogOpensAnew) {
 
   QPrintDialog second(&printer_);
   ASSERT_TRUE(attachPanels(&second));
-  show(second, 3);
+  showAt(second, 3);
   EXPECT_EQ(widget<QComboBox>(second, "colorModePopUp").currentText(), picked);
 }
 

@@ -3,17 +3,14 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <QApplication>
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QPrinter>
 #include <QProgressDialog>
 #include <QPushButton>
-#include <QTabWidget>
 #include <QTcpServer>
 #include <QTcpSocket>
-#include <QTest>
 #include <QThread>
 #include <QTimer>
 #include <future>
@@ -25,6 +22,7 @@
 #include "dialog/QueueDialog.h"
 #include "dialog/SettingsDialog.h"
 #include "host/Error.h"
+#include "tests/support/Dialogs.h"
 
 namespace kwopde::test {
 namespace {
@@ -43,12 +41,6 @@ protected:
     qunsetenv("KWOPDE_TIMEOUT");
   }
 
-  static QStringList tabs(const QDialog &dialog) {
-    const auto *tabs = dialog.findChild<QTabWidget *>();
-    QStringList names;
-    for (int i = 0; i < tabs->count(); ++i) names.append(tabs->tabText(i));
-    return names;
-  }
   static std::string shown(const QDialog &dialog) {
     for (const QLabel *label : dialog.findChildren<QLabel *>())
       if (label->isVisible() && label->wordWrap()) return label->text().toStdString();
@@ -120,15 +112,15 @@ TEST_F(Questions, ShowTabsWhenTheAnswerIsThereAndOnlyThoseOfTheChosenPrinter) {
   auto dialog = std::make_unique<QPrintDialog>(&printer);
   new dialog::PrintDialogPanels(module_, *dialog);
   dialog->show();
-  EXPECT_EQ(tabs(*dialog).size(), 2) << "Qt's";
+  EXPECT_EQ(tabTitles(*dialog).size(), 2) << "Qt's";
   Question::waitForAll();
-  EXPECT_EQ(tabs(*dialog).mid(2), QStringList({"Media", "Color", "Sharpen", "Summary"}));
+  EXPECT_EQ(tabTitles(*dialog, 2), QStringList({"Media", "Color", "Sharpen", "Summary"}));
   auto *printers = dialog->findChild<QComboBox *>("printers");
   for (const char *name : {"kwo-1200", "kwo-7032", "kwo-1200", "kwo-basic"})
     printers->setCurrentText(name);
-  EXPECT_EQ(tabs(*dialog).size(), 2);
+  EXPECT_EQ(tabTitles(*dialog).size(), 2);
   Question::waitForAll();
-  EXPECT_EQ(tabs(*dialog).mid(2), QStringList({"Media", "Color", "Summary"}));
+  EXPECT_EQ(tabTitles(*dialog, 2), QStringList({"Media", "Color", "Summary"}));
   printers->setCurrentText("kwo-1200");
   dialog.reset();  // while it is asked
   QApplication::processEvents();

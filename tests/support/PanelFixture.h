@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 
 #include <QComboBox>
-#include <QLineEdit>
 #include <QSlider>
 
 #include "panels/ColorPDE.h"
@@ -14,6 +13,7 @@
 #include "panels/SharpenPDE.h"
 #include "qt/QtInterfaceLoader.h"
 #include "qt/QtUserInput.h"
+#include "tests/support/Dialogs.h"
 #include "tests/support/RecordingHost.h"
 
 namespace kwopde::test {
@@ -64,9 +64,7 @@ struct PanelOn {
 
   template <class Widget>
   Widget &widget(const char *outlet) const {
-    auto *found = static_cast<QWidget *>(panel->pdeView->nativeView())->findChild<Widget *>(outlet);
-    if (!found) throw std::runtime_error(outlet);
-    return *found;
+    return test::widget<Widget>(*static_cast<QWidget *>(panel->pdeView->nativeView()), outlet);
   }
 
   InterfaceFiles files;

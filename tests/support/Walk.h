@@ -1,6 +1,7 @@
 // A dialog as somebody meets it who has no mouse, reads another language, or needs large letters.
 #pragma once
 
+#include <QDialog>
 #include <QLocale>
 #include <QTranslator>
 #include <QWidget>
@@ -13,19 +14,10 @@ namespace kwopde::test {
 /// the widgets that had it, in order; a widget without a name goes by its class.
 std::vector<std::string> tabOrder(QWidget &window);
 
-/// Returns the names of the widgets in `window` that can be seen and want the Tab key, sorted.
-std::vector<std::string> tabStops(const QWidget &window);
-
-/// Returns the texts that can be seen in the window of `page` and share a letter behind the Alt key
-/// with one on `page`.
-std::vector<std::string> sharedMnemonics(const QWidget &page);
-
-/// Presses the help key in `window`. Returns what is told, and closes it; empty for nothing.
-std::string helpOf(QWidget &window);
-
-/// Returns how much more height and width than its room the part of `page` needs that scrolls:
-/// "9+0"; empty when it has its room.
-std::string cutOff(const QWidget &page);
+/// Shows `dialog` and works its tabs from number `first` on without a mouse: each is reached, all
+/// on it has the focus once and a letter of its own behind the Alt key, help is there, and nothing
+/// has to be scrolled.
+void expectUsable(QDialog &dialog, int first);
 
 /// The languages that the dialogs have translations for.
 inline constexpr QLocale::Language kLanguages[] = {QLocale::German,   QLocale::French,
