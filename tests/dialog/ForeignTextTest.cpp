@@ -9,7 +9,6 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QGroupBox>
-#include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -22,10 +21,8 @@
 #include <QTimer>
 #include <QToolButton>
 #include <cstdlib>
-#include <fstream>
 #include <regex>
 #include <set>
-#include <sstream>
 
 #include "attach/kwopde/attach.h"
 #include "dialog/ModuleLoader.h"

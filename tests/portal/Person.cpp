@@ -1,7 +1,6 @@
 // A person at the dialog of another program, as a plug-in that Qt loads into it. KWOPDE_PERSON is
 // what the person does: print (85 as the page scale, two copies, pages 2 to 3), cancel, crash, or
 // wait.
-#include <QAbstractButton>
 #include <QGenericPlugin>
 #include <QLineEdit>
 #include <QPrintDialog>
