@@ -172,8 +172,7 @@ TEST_F(Jobs, OfPrintAreMarkedAsThoseOfLpByWhateverName) {
   };
   for (const char *words : {"-d jobs -o PageSize=4x6", "-d jobs -o PageSize=5x7"}) {
     given("-p jobs -o media=8x10,Tray2", "");
-    const auto print = carriedBy(
-        jobIn(run(std::string(KWOPDE_COMMAND) + " print " + words + ' ' + document_).text));
+    const auto print = carriedBy(jobIn(kwopdePrint(words).text));
     EXPECT_EQ(marked(print), marked(byLp(words))) << words;
     EXPECT_THAT(print, Contains(Pair("media", "Tray2"))) << words;
   }
