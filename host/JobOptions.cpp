@@ -101,11 +101,14 @@ JobOptions::JobOptions(const std::vector<OptionChoice> &destination,
 }
 
 void JobOptions::set(const std::string &key, const std::string &choice) {
-  std::erase_if(list_, [&](Option &option) {
-    if (isSameKey(option.key, key) || !isSameSetting(option.key, key)) return false;
-    // The tray and the kind of paper stay.
-    if (isSameKey(option.key, "media")) option.choice = withoutPaper(option.choice);
-    return !isSameKey(option.key, "media") || option.choice.empty();
+  const auto isOtherName = [&](const OptionChoice &option) {
+    return !isSameKey(option.key, key) && isSameSetting(option.key, key);
+  };
+  const auto isMedia = [](const OptionChoice &option) { return isSameKey(option.key, "media"); };
+  for (OptionChoice &option : list_)  // the tray and the kind of paper stay
+    if (isOtherName(option) && isMedia(option)) option.choice = withoutPaper(option.choice);
+  std::erase_if(list_, [&](const OptionChoice &option) {
+    return isOtherName(option) && (!isMedia(option) || option.choice.empty());
   });
   const auto known = find(list_, key);
   if (known == list_.end())
