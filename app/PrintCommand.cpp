@@ -92,8 +92,8 @@ Marks askForAttributes(const std::vector<host::OptionChoice> &attributes,
   const Marks before = marksOf(*plain);
   plain->markSaved(attributes);
   for (const auto &[key, choice] : marksOf(*plain)) {
-    const auto names = [&key](const host::OptionChoice &attribute) {
-      return host::isSameSetting(attribute.key, key);
+    const auto names = [&option = key](const host::OptionChoice &attribute) {
+      return host::isSameSetting(attribute.key, option);
     };
     const auto was = before.find(key);
     const bool isNew = was != before.end() && was->second != choice;
