@@ -98,7 +98,8 @@ TEST_F(Dialog, LoadsAPanelWhenItsTabIsFirstSeenAndTellsItOfShowingAndLeaving) {
 TEST_F(Dialog, CarriesEverySettingToTheHost) {
   open("kwo-7032.ppd");
   QTest::keyClick(&widget<QComboBox>("printQualityPopUp"), Qt::Key_Down);
-  retype(widget<QLineEdit>("pageScaleEdit"), "85");
+  widget<QLineEdit>("pageScaleEdit").selectAll();
+  QTest::keyClicks(&widget<QLineEdit>("pageScaleEdit"), "85");
   EXPECT_THAT(std::exchange(requests_.all, {}), ElementsAre("printQuality=Fine"));
 
   QTest::keyClick(tabs_->tabBar(), Qt::Key_Right);
