@@ -31,14 +31,16 @@ private:
   void settle() {
     panels_.settle();
     panels_.handOver();
-    // The application prints now, so this can only be told.
+    // The application prints now, so this can only be told. It may delete the dialog at any time
+    // when events are handled, which nothing waits for here: Qt would not survive it in the middle
+    // of hiding.
     QStringList problems = panels_.refusals();
     const QString replaced = panels_.followPpd(nullptr).value_or(QString());
     if (!replaced.isEmpty()) problems.append(replaced);
     if (const QString conflicts = panels_.conflicts(); !conflicts.isEmpty())
       problems.append(conflicts);
     if (problems.isEmpty()) return;
-    dialog::warn(&dialog_, problems.join("\n\n"));
+    dialog::tell(dialog_, problems.join("\n\n"));
   }
 
   QPrintDialog &dialog_;

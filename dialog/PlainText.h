@@ -15,8 +15,12 @@ QLabel *plainLabel(const QString &text);
 /// Lets every label in `window` show its text as it is, also those that Qt made.
 void showPlainly(QWidget &window);
 
-/// Tells the person at `window`, and waits until that is read.
+/// Tells the person at `window`, and waits until that is read, or the window is deleted.
 void warn(QWidget *window, const QString &text);
+
+/// Tells the person, and the application's log, without waiting: in front of the window from which
+/// `closing` was opened.
+void tell(const QWidget &closing, const QString &text);
 
 /// Tells the application's log, on one line.
 void log(const char *text);

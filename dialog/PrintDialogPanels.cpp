@@ -75,7 +75,7 @@ void PrintDialogPanels::showPanelsOf(const QString &printer, const Prepare &prep
     printer_ = &known->second;
     return showPages();
   }
-  if (printer.isEmpty()) return;
+  if (printer.isEmpty() || dialog_.printer()->outputFormat() != QPrinter::NativeFormat) return;
   question_ = std::make_unique<Question>(std::bind_front(&Printer::find, printer.toStdString()),
                                          [this, prepare](std::future<Printer> answer) {
                                            keep(std::move(answer), prepare);

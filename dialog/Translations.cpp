@@ -21,8 +21,11 @@ void install(const QString &name, const QString &folder) {
 }  // namespace
 
 void installTranslations() {
-  install("qtbase", QLibraryInfo::location(QLibraryInfo::TranslationsPath));
   install("kwopde-host", ":/kwopde-host");
+}
+
+void installQtTranslations() {
+  install("qtbase", QLibraryInfo::location(QLibraryInfo::TranslationsPath));
 }
 
 }  // namespace kwopde::dialog

@@ -3,8 +3,12 @@
 
 namespace kwopde::dialog {
 
-/// Installs them, and Qt's own for its buttons, for Qt's default locale; a second call does
-/// nothing. Needs a QCoreApplication, which then owns them.
+/// Installs them for Qt's default locale; a second call does nothing. Needs a QCoreApplication,
+/// which then owns them.
 void installTranslations();
+
+/// Installs Qt's own texts the same way: for programs of our own, since the language of every
+/// window changes.
+void installQtTranslations();
 
 }  // namespace kwopde::dialog

@@ -26,6 +26,15 @@ QString withoutMnemonic(QString title) {
   return title.remove('&').remove("…").remove("...");
 }
 
+/// Returns a page setup as the interface has it: its lengths are doubles, which JSON does not tell
+/// from whole numbers.
+QVariantMap pageSetupOf(const QJsonObject &written) {
+  QVariantMap setup = written.toVariantMap();
+  for (QVariant &value : setup)
+    if (value.typeId() == QMetaType::LongLong) value = value.toDouble();
+  return setup;
+}
+
 /// Tells the person what no dialog is open for any more.
 void notify(const QString &title, const QString &why) {
   auto call = QDBusMessage::createMethodCall("org.freedesktop.Notifications",
@@ -64,7 +73,7 @@ quint32 PrintPortal::PreparePrint(const QDBusObjectPath &, const QString &appId,
       QJsonObject job = answer["job"].toObject();
       job["title"] = name;
       request->answer(Request::done, {{"settings", answer["settings"].toObject().toVariantMap()},
-                                      {"page-setup", answer["pageSetup"].toObject().toVariantMap()},
+                                      {"page-setup", pageSetupOf(answer["pageSetup"].toObject())},
                                       {"token", tokens_.add(appId, job)}});
     });
   });

@@ -38,6 +38,7 @@ int main(int argc, char **argv) {
       QApplication application(one, argv);
       QApplication::setApplicationName("kwopde");
       QApplication::setApplicationVersion(KWOPDE_VERSION);
+      dialog::installQtTranslations();
       dialog::installTranslations();
       return function(options);
     };

@@ -7,7 +7,9 @@
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QLabel>
+#include <QLocale>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPrintEngine>
 #include <QPrinter>
 #include <QPushButton>
@@ -221,6 +223,36 @@ TEST_F(QtDialog, IsWorkedByTheKeyboardAloneAndSeenWithoutScrolling) {
   check("&Print");
   const Speaking german(QLocale::German);
   check("&Drucken");
+}
+
+TEST_F(QtDialog, MayBeDeletedWhileItsPanelsTellSomething) {
+  auto *dialog = new QPrintDialog(&printer_);
+  attachPanels(dialog);
+  showAt(*dialog, 2);
+  retype(widget<QLineEdit>(*dialog, "pageScaleEdit"), "9999");
+  QTimer::singleShot(0, qApp, [&dialog] { delete std::exchange(dialog, nullptr); });
+  dialog->accept();
+  QApplication::processEvents();
+  EXPECT_EQ(dialog, nullptr);
+  auto *told = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+  ASSERT_NE(told, nullptr);
+  EXPECT_THAT(told->text().toStdString(), HasSubstr("Page Scale cannot be"));
+  EXPECT_EQ(told->textFormat(), Qt::PlainText);
+  told->button(QMessageBox::Close)->click();
+}
+
+TEST_F(QtDialog, LeavesTheLanguageOfTheApplicationAlone) {
+  const auto forgetAll = [] { const Speaking german(QLocale::German); };  // at its end
+  forgetAll();
+  const QLocale before;
+  QLocale::setDefault(QLocale::German);
+  {
+    QPrintDialog dialog(&printer_);
+    attachPanels(&dialog);
+    EXPECT_EQ(QCoreApplication::translate("QPlatformTheme", "Cancel"), "Cancel");
+  }
+  QLocale::setDefault(before);
+  forgetAll();
 }
 
 TEST_F(QtDialog, GivesPanelsRoomWhereItFoldsThemAway) {

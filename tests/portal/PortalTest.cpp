@@ -141,7 +141,9 @@ TEST_F(Portal, PrintsWhatWasSetInItsDialog) {
   const QVariantMap pageSetup = mapOf(prepared.results["page-setup"]);
   EXPECT_EQ(pageSetup["Name"], "iso_a4_210x297mm");
   EXPECT_EQ(qRound(pageSetup["Height"].toDouble()), 297);
-  EXPECT_TRUE(pageSetup.contains("MarginTop"));
+  for (const char *length :
+       {"Width", "Height", "MarginTop", "MarginBottom", "MarginLeft", "MarginRight"})
+    EXPECT_EQ(pageSetup[length].typeId(), QMetaType::Double) << length;
   const quint32 token = prepared.results["token"].toUInt();
   EXPECT_NE(token, 0U);
 

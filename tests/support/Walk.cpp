@@ -127,6 +127,7 @@ void expectUsable(QDialog &dialog, int first) {
 Speaking::Speaking(QLocale::Language language) {
   removeTranslations();
   QLocale::setDefault(QLocale(language));
+  dialog::installQtTranslations();
   dialog::installTranslations();
   if (panels_.load(QLocale(), "kwopde", "_", ":/kwopde"))
     QCoreApplication::installTranslator(&panels_);
