@@ -29,6 +29,7 @@ host::Error noRoom(const QFileDevice &file) {
 
 /// Copies what `from` has, to its end; false when `isCancelled` comes first. Throws `host::Error`.
 bool copy(int from, QFileDevice &to, const std::atomic<bool> &isCancelled) {
+  if (from < 0) throw host::Error("the document cannot be read: it came without a descriptor");
   std::array<char, 65536> block;
   while (!isCancelled) {
     pollfd ready{from, POLLIN, 0};
