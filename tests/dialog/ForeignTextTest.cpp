@@ -220,7 +220,9 @@ TEST_F(ForeignText, IsNowhereShownAsMarkup) {
     QPrintDialog attached(&painted);
     ASSERT_TRUE(attachPanels(&attached));
     lookAtTabs(attached);
-    attached.accept();  // warns of the same
+    attached.accept();  // warns of the same, in a window that stays
+    QApplication::closeAllWindows();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   }
   EXPECT_THAT(seen_.rich, testing::IsEmpty());
   for (const char *mark : {"PAPER", "OPTION", "CHOICE", "GROUP", "NICKNAME", "VALUE", "LOCATION",
