@@ -186,8 +186,9 @@ TEST_F(Jobs, AreOfTheDocumentsThatAreNamed) {
     EXPECT_EQ(attributesOf(jobIn(run(kwopde + words + document_).text))["document-format-supplied"],
               attributesOf(
                   jobIn(run("lp -d jobs " + words + document_).text))["document-format-supplied"]);
-  const std::string bracketed = folder_.write("[page.txt]", "another page");
-  const int job = jobIn(run(kwopde + "'" + bracketed + "' " + document_).text);
+  const std::string here = "cd $(dirname " + document_ + ") && ";
+  folder_.write("[page.txt]", "another page");
+  const int job = jobIn(run(here + kwopde + "'[page.txt]' page.txt").text);
   EXPECT_THAT(attributesOf(job)["job-name"], testing::HasSubstr("[page.txt]"));
   EXPECT_EQ(attributesOf(job)["number-of-documents"], "2");
   const Output twice = run(kwopde + "--script - - </dev/null");
@@ -197,7 +198,6 @@ TEST_F(Jobs, AreOfTheDocumentsThatAreNamed) {
   const Output refused = run(kwopde + "- </dev/null");
   EXPECT_EQ(refused.status, 1);
   EXPECT_THAT(refused.text, testing::HasSubstr("Check the printer and try again"));
-  const std::string here = "cd $(dirname " + document_ + ") && ";
   const Output homeless = run(here + "TMPDIR=/dev/null " + std::string(KWOPDE_COMMAND) +
                               " dialog --snapshot . - </dev/null");
   EXPECT_EQ(homeless.status, 2) << homeless.text;
