@@ -2,6 +2,7 @@
 
 #include <fcntl.h>
 #include <fmt/format.h>
+#include <poll.h>
 #include <sys/mman.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -62,6 +63,14 @@ Stream openRepeatable(const std::string &path) {
   struct stat kind{};
   if (fstat(fileno(file.get()), &kind) != 0) throw failure(path);
   return S_ISREG(kind.st_mode) ? std::move(file) : copyOf(file.get(), path);
+}
+
+bool waitToRead(int file, const std::function<bool()> &goesOn) {
+  constexpr int kLook = 50;  // milliseconds
+  pollfd ready{file, POLLIN, 0};
+  for (int found = 0; (found = poll(&ready, 1, kLook)) == 0 || (found < 0 && errno == EINTR);)
+    if (!goesOn()) return false;
+  return true;
 }
 
 }  // namespace kwopde::host

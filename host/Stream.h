@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdio>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -27,5 +28,9 @@ Stream openOnce(const std::string &path);
 /// Opens it for being read more than once: what can be
 /// read only once, such as a pipe, is copied into memory, up to 32 MB. Throws as `openOnce` does.
 Stream openRepeatable(const std::string &path);
+
+/// Waits until there is something to read from the descriptor `file`, or its end, and asks `goesOn`
+/// every 50 ms meanwhile. Returns false once that does.
+bool waitToRead(int file, const std::function<bool()> &goesOn);
 
 }  // namespace kwopde::host

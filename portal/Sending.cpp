@@ -1,6 +1,5 @@
 #include "portal/Sending.h"
 
-#include <poll.h>
 #include <unistd.h>
 
 #include <QCoreApplication>
@@ -14,14 +13,12 @@
 #include <cstring>
 
 #include "host/Error.h"
+#include "host/Stream.h"
 #include "queue/PrintJob.h"
 
 namespace kwopde::portal {
 
 namespace {
-
-/// Milliseconds between looks at whether it was cancelled.
-constexpr int kLook = 100;
 
 host::Error noRoom(const QFileDevice &file) {
   return host::Error("there is no room for the document: " + file.errorString().toStdString());
@@ -31,9 +28,7 @@ host::Error noRoom(const QFileDevice &file) {
 bool copy(int from, QFileDevice &to, const std::atomic<bool> &isCancelled) {
   if (from < 0) throw host::Error("the document cannot be read: it came without a descriptor");
   std::array<char, 65536> block;
-  while (!isCancelled) {
-    pollfd ready{from, POLLIN, 0};
-    if (poll(&ready, 1, kLook) == 0) continue;
+  while (host::waitToRead(from, [&] { return !isCancelled; }) && !isCancelled) {
     const ssize_t size = ::read(from, block.data(), block.size());
     if (size == 0) return true;
     if (size < 0 && errno != EINTR)

@@ -2,7 +2,6 @@
 
 #include <cups/cups.h>
 #include <fmt/format.h>
-#include <poll.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -38,8 +37,6 @@ std::vector<Document> openDocuments(const std::vector<std::string> &paths, long 
   return documents;
 }
 
-constexpr int kLook = 50;  // milliseconds between looks at whether it was cancelled
-
 /// Returns as much of `text` as a name on the server can have, in whole characters.
 std::string nameOf(const std::string &text) {
   std::size_t size = std::min<std::size_t>(text.size(), 255);
@@ -54,14 +51,6 @@ std::string formatOf(const std::vector<OptionChoice> &options) {
   if (cupsGetOption("raw", list.count, list.options)) return CUPS_FORMAT_RAW;
   const char *format = cupsGetOption("document-format", list.count, list.options);
   return format ? format : CUPS_FORMAT_AUTO;
-}
-
-/// Waits until there is something to read, or its end. Returns false when `goesOn` did.
-bool waitFor(int file, const std::function<bool()> &goesOn) {
-  pollfd ready{file, POLLIN, 0};
-  for (int found = 0; (found = poll(&ready, 1, kLook)) == 0 || (found < 0 && errno == EINTR);)
-    if (!goesOn()) return false;
-  return true;
 }
 
 /// Time for cancelling a job, whose sender may be waiting for it.
@@ -106,7 +95,7 @@ public:
     std::array<char, 65536> block;
     const int file = fileno(document.stream.get());
     while (taken) {
-      if (!waitFor(file, [&] { return progress(0); })) return false;
+      if (!waitToRead(file, [&] { return progress(0); })) return false;
       const ssize_t size = read(file, block.data(), block.size());
       if (size < 0 && errno == EINTR) continue;
       if (size < 0) throw Error(fmt::format("{}: {}", document.name, std::strerror(errno)));
