@@ -66,8 +66,6 @@ private:
 
   Panel &panel(std::string_view word) const;
 
-  /// Returns the index of `item` in the menu of the control `name`: an index, a keyword of its
-  /// option or a text that it shows. -1 when there is none.
   /// Return the index of an item of the pop-up `name`, a word of a script, by keyword or else by
   /// the text that it shows; `itemIndex` by its index before that. None when there is no such item.
   std::optional<int> choiceIndex(const Menu &menu, const std::string &name,
