@@ -31,9 +31,8 @@ private:
   void settle() {
     panels_.settle();
     panels_.handOver();
-    // The application prints now, so this can only be told. It may delete the dialog at any time
-    // when events are handled, which nothing waits for here: Qt would not survive it in the middle
-    // of hiding.
+    // The application prints now, so this can only be told. Waiting would handle events, and Qt
+    // does not survive that the application deletes the dialog while it is being hidden.
     QStringList problems = panels_.refusals();
     const QString replaced = panels_.followPpd(nullptr).value_or(QString());
     if (!replaced.isEmpty()) problems.append(replaced);
